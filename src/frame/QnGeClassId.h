@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+/// Class ids of the object tree. They stand in streams, so a value never changes its meaning.
+enum QnGeClassId : long {
+    CLASS_ID_OBJECT = 100,
+    CLASS_ID_OBJECT2D = 101,
+    CLASS_ID_POINT2D = 102,
+
+    CLASS_ID_CURVE2D = 110,
+    CLASS_ID_LINE2D = 111,
+    CLASS_ID_LINE_RAY2D = 112,
+    CLASS_ID_LINE_SEG2D = 113,
+    CLASS_ID_CIRCLE2D = 114,
+    CLASS_ID_ARC2D = 115,
+    CLASS_ID_MLINE2D = 116,
+    CLASS_ID_POLYLINE2D = 117,
+    CLASS_ID_MCURVE2D = 118,
+    CLASS_ID_ELLIPSE2D = 119,
+    CLASS_ID_EARC2D = 120,
+    CLASS_ID_SPLINE2D = 121,
+
+    CLASS_ID_REGION2D = 300,
+    CLASS_ID_POLYGON2D = 301,
+    CLASS_ID_GENERAL_POLYGON2D = 302,
+    CLASS_ID_GENERAL_REGION2D = 303,
+
+    CLASS_ID_OBJECT3D = 1001,
+    CLASS_ID_POINT3D = 1002,
+
+    CLASS_ID_CURVE3D = 1100,
+    CLASS_ID_LINE3D = 1101,
+    CLASS_ID_LINE_RAY3D = 1102,
+    CLASS_ID_LINE_SEG3D = 1103,
+    CLASS_ID_PLANE3D = 1104,  ///< in the range of the curves, although the plane is a face
+    CLASS_ID_PLANE_CURVE3D = 1105,
+    CLASS_ID_MLINE3D = 1106,
+    CLASS_ID_MCURVE3D = 1107,
+    CLASS_ID_POLYLINE3D = 1108,
+
+    CLASS_ID_FACE3D = 1300,
+    CLASS_ID_SOLID3D = 1600
+};
