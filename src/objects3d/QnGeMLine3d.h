@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "frame/QnGeApi.h"
+#include "frame/QnGeClassRecord.h"
+#include "objects3d/QnGeCurve3d.h"
+
+/// Place in the class tree; answers with the defaults of QnGeObject3d.
+class QUARNGEO_API QnGeMLine3d : public QnGeCurve3d {
+public:
+    QN_CLASS_RECORD(QnGeMLine3d);
+};
