@@ -97,4 +97,8 @@ public:
 
     /// As StreamIn, but an entry that could not be made becomes null and so keeps the places of the others.
     void StreamInWithGaps(QnStream& stream);
+
+private:
+    void AppendClones(const QnGeObjList& other);
+    void ReadEntries(QnStream& stream, bool keepGaps);
 };
