@@ -90,7 +90,9 @@ public:
     bool GetEndPoint(QnGePoint& pt) const override;
     /// The plan length.
     double Length() const override;
-    /// Exchanges the ends; the vector is turned round in x and y.
+    /// Exchanges the ends in the plan.
+    ///
+    /// Kept odd  The vector is turned round in x and y only: its rise stays, so a sloping segment climbs on.
     void Reverse() override;
     /// The two ends as an open line; `prec` plays no part.
     QnGeMLine2d* MLinearize(double prec) const override;
@@ -100,7 +102,4 @@ public:
     QnGeCurve2d* GetExtendCurve() const override;
     /// Grows over `other` if it is a segment of the same line that overlaps or touches; the direction stays.
     bool Conbine(const QnGeCurve2d& other, bool strictDirection) override;
-
-private:
-    bool IntersectLine(const QnGeLine2d& line, QnGeObjList& out) const;
 };
