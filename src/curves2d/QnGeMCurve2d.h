@@ -8,9 +8,9 @@
 ///
 /// The geometry is that of a bare curve: nothing is exploded, measured or hit.
 ///
-/// Ownership  The children are destroyed with the chain and cloned with it.
-/// Stream     Flags only. Class id 118.
-/// See        List() for the list's forms of the names that both bases offer.
+/// Ownership  The children are destroyed with the chain and cloned with it; one that has no clone is left out of the
+/// copy. Stream     Flags only. Class id 118. See        List() for the list's forms of the names that both bases
+/// offer.
 class QUARNGEO_API QnGeMCurve2d : public QnGeCurve2d, public QnPDList<QnGeCurve2d> {
 public:
     QN_CLASS_RECORD(QnGeMCurve2d);
@@ -42,5 +42,6 @@ public:
     QnGeObject* Clone() const override;
 
 private:
+    void AppendClone(const QnGeCurve2d& curve);
     void AppendClones(const QnGeMCurve2d& other);
 };
