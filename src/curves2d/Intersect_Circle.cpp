@@ -26,12 +26,10 @@
 #include "frame/QnGeClassId.h"
 #include "frame/QnGeObjList.h"
 #include "frame/QnGeTolerance.h"
+#include "values/QnGeAnalytic.h"
 #include "values/QnGePoint2d.h"
 
 namespace {
-
-// Answers of the elementary intersections.
-enum MeetCode { MEET_NONE = 0, MEET_ONCE = 1, MEET_TWICE = 2, MEET_SAME_CIRCLE = 11 };
 
 // ---- rows of IntersectWith -----------------------------------------------------------------------
 
@@ -39,11 +37,11 @@ bool CircleByLine(const QnGeCircle2d& circle, const QnGeLine2d& line, QnGeObjLis
     QnGePoint p1;
     QnGePoint p2;
     const int code = circle.QnGeBaseCircle::IntersectWith(line, p1, p2, false);
-    if (code == MEET_NONE) {
+    if (code == INTERSECT_NONE) {
         return false;
     }
     result.Append(new QnGePoint2d(p1));
-    if (code == MEET_TWICE) {
+    if (code == INTERSECT_TWO) {
         result.Append(new QnGePoint2d(p2));
     }
     return true;
@@ -72,11 +70,11 @@ bool CircleByPartOfLine(const QnGeCircle2d& circle, const QnGeLine2d& line, bool
     double t1 = 0.0;
     double t2 = 0.0;
     const int code = line.QnGeBaseLine2d::IntersectWith(circle, t1, t2, false);
-    if (code == MEET_NONE) {
+    if (code == INTERSECT_NONE) {
         return false;
     }
     const bool hasFirst = AppendIfInRange(line, t1, isInRange, result);
-    const bool hasSecond = code == MEET_TWICE && AppendIfInRange(line, t2, isInRange, result);
+    const bool hasSecond = code == INTERSECT_TWO && AppendIfInRange(line, t2, isInRange, result);
     return hasFirst || hasSecond;
 }
 
@@ -92,16 +90,16 @@ bool CircleByCircle(const QnGeCircle2d& circle, const QnGeCircle2d& other, QnGeO
     QnGePoint p1;
     QnGePoint p2;
     switch (circle.QnGeBaseCircle::IntersectWith(other, p1, p2)) {
-        case MEET_NONE:
+        case INTERSECT_NONE:
             return false;
-        case MEET_ONCE:
+        case INTERSECT_ONE:
             result.Append(new QnGePoint2d(p1));
             return true;
-        case MEET_TWICE:
+        case INTERSECT_TWO:
             result.Append(new QnGePoint2d(p1));
             result.Append(new QnGePoint2d(p2));
             return true;
-        case MEET_SAME_CIRCLE:
+        case INTERSECT_SAME_CIRCLE:
         default:
             result.Append(new QnGeCircle2d(circle));
             return true;
