@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "polylines/detail/OutlineIndex.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "polylines/QnGeMLine2d.h"
+#include "values/QnGeVector2d.h"
+
+namespace qn_detail {
+
+namespace {
+
+constexpr int LANES = BoxLanes::COUNT;
+constexpr double FLOAT_COORDINATE_LIMIT = 1e30;
+constexpr float FLOAT_INFINITY = std::numeric_limits<float>::infinity();
+constexpr FloatBox EMPTY_BOX = {FLOAT_INFINITY, FLOAT_INFINITY, -FLOAT_INFINITY, -FLOAT_INFINITY};
+
+FloatBox HullOfLanes(const BoxLanes& lanes) {
+    FloatBox hull = EMPTY_BOX;
+    for (int lane = 0; lane < LANES; ++lane) {
+        hull = hull.With(lanes.GetBox(lane));
+    }
+    return hull;
+}
+
+void ClearLanes(BoxLanes& lanes) {
+    for (int lane = 0; lane < LANES; ++lane) {
+        lanes.SetBox(lane, EMPTY_BOX);
+    }
+}
+
+std::size_t Index(long i) {
+    return static_cast<std::size_t>(i);
+}
+
+}  // namespace
+
+OutlineIndex::OutlineIndex(const QnGeMLine2d& outline, const QnGePoint& centre)
+    : m_vertices(outline.GetVertexArray().GetFirst()),
+      m_vertexNum(outline.GetVertexNum()),
+      m_edgeNum(outline.GetSegNum()),
+      m_centreX(centre.x),
+      m_centreY(centre.y) {
+    const long blocks = GetBlockNum();
+    m_edgeBoxes.reset(new BoxLanes[Index(blocks)]);
+    m_directions.reset(new EdgeDirection[Index(m_edgeNum)]);
+    m_made.reset(new unsigned char[Index(blocks)]());
+    if (m_edgeNum > 0) {
+        MakeUpperLevels();
+    }
+}
+
+// Rounding is monotone: the float hull of a block is the hull of its vertices, rounded once.
+FloatBox OutlineIndex::GetBlockBox(long block) {
+    const long first = block * LANES;
+    const long last = std::min(first + LANES, m_edgeNum);  // a vertex more than edges
+    const QnGePoint& end = GetEdgeEnd(last - 1);
+    double x0 = end.x;
+    double y0 = end.y;
+    double x1 = end.x;
+    double y1 = end.y;
+    double notFinite = end.x * 0.0 + end.y * 0.0;  // stays 0 unless a coordinate is infinite or no number
+    for (long i = first; i < last; ++i) {
+        const QnGePoint& p = m_vertices[i];
+        x0 = std::min(x0, p.x);
+        y0 = std::min(y0, p.y);
+        x1 = std::max(x1, p.x);
+        y1 = std::max(y1, p.y);
+        notFinite += p.x * 0.0 + p.y * 0.0;
+    }
+    const FloatBox box = {static_cast<float>(x0 - m_centreX), static_cast<float>(y0 - m_centreY),
+                          static_cast<float>(x1 - m_centreX), static_cast<float>(y1 - m_centreY)};
+    const double reach = std::max({std::fabs(x0), std::fabs(y0), std::fabs(x1), std::fabs(y1)});
+    m_usable = m_usable && notFinite == 0.0 && reach <= FLOAT_COORDINATE_LIMIT;
+    return box;
+}
+
+void OutlineIndex::MakeUpperLevels() {
+    m_usable = std::fabs(m_centreX) <= FLOAT_COORDINATE_LIMIT && std::fabs(m_centreY) <= FLOAT_COORDINATE_LIMIT;
+    long groups = 0;
+    for (long boxes = GetBlockNum(), more = 1; more != 0; boxes = (boxes - 1) / LANES + 1) {
+        m_levelStart[++m_levelNum] = groups;
+        groups += (boxes - 1) / LANES + 1;
+        more = boxes > LANES ? 1 : 0;
+    }
+    m_upper = PodArray<BoxLanes>(groups);
+
+    long boxes = GetBlockNum();
+    for (int level = 1; level <= m_levelNum; ++level) {
+        BoxLanes* const lanes = &m_upper[m_levelStart[level]];
+        ClearLanes(lanes[(boxes - 1) / LANES]);
+        for (long i = 0; i < boxes; ++i) {
+            const FloatBox box = level == 1 ? GetBlockBox(i) : HullOfLanes(m_upper[m_levelStart[level - 1] + i]);
+            lanes[i / LANES].SetBox(static_cast<int>(i % LANES), box);
+        }
+        boxes = (boxes - 1) / LANES + 1;
+    }
+
+    m_hull = HullOfLanes(GetLanes(m_levelNum, 0));
+}
+
+void OutlineIndex::MakeEdgeBoxes(long block) {
+    BoxLanes& lanes = m_edgeBoxes[Index(block)];
+    const long first = block * LANES;
+    const long count = std::min<long>(LANES, m_edgeNum - first);
+    if (count < LANES) {
+        ClearLanes(lanes);
+    }
+    float x = static_cast<float>(m_vertices[first].x - m_centreX);
+    float y = static_cast<float>(m_vertices[first].y - m_centreY);
+    for (long k = 0; k < count; ++k) {
+        const QnGePoint& end = GetEdgeEnd(first + k);
+        const float nextX = static_cast<float>(end.x - m_centreX);
+        const float nextY = static_cast<float>(end.y - m_centreY);
+        lanes.x0[k] = std::min(x, nextX);
+        lanes.x1[k] = std::max(x, nextX);
+        lanes.y0[k] = std::min(y, nextY);
+        lanes.y1[k] = std::max(y, nextY);
+        x = nextX;
+        y = nextY;
+    }
+    m_made[Index(block)] |= HAS_BOXES;
+}
+
+void OutlineIndex::MakeDirections(long block) {
+    const long first = block * LANES;
+    const long last = std::min(first + LANES, m_edgeNum);
+    for (long i = first; i < last; ++i) {
+        QnGeVector2d vector(m_vertices[i], GetEdgeEnd(i));
+        const double length = vector.Length();
+        vector.Normalize();
+        m_directions[Index(i)] = {vector.x, vector.y, length};
+    }
+    m_made[Index(block)] |= HAS_DIRECTIONS;
+}
+
+long OutlineIndex::GetMemory() const {
+    const std::size_t blocks = Index(GetBlockNum());
+    return static_cast<long>(blocks * (sizeof(BoxLanes) + 1) + Index(m_edgeNum) * sizeof(EdgeDirection) +
+                             Index(m_upper.GetLength()) * sizeof(BoxLanes));
+}
+
+}  // namespace qn_detail
