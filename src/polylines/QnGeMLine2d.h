@@ -152,8 +152,9 @@ public:
     /// Segment `i` as a curve object of the caller's, a QnGeLineSeg2d.
     virtual QnGeCurve2d* GetCurveSeg(long i) const;
 
-    /// Sets the number of vertices to exactly `n`, which also sets the memory held. What remains keeps its points,
-    /// new vertices are at the origin. `keep` speaks of the bulges of a polyline only: false clears them.
+    /// Sets the number of vertices to exactly `n`, which also sets the memory held. What remains keeps its points;
+    /// those of new vertices are for the caller to set. `keep` speaks of the bulges of a polyline only: false clears
+    /// them.
     virtual void SetVertexNum(long n, bool keep);
 
     /// Vertex `i` goes. On a polyline the segment that ended there goes on to the next vertex with its own bulge.

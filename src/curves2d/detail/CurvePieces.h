@@ -2,9 +2,20 @@
 #pragma once
 
 #include "curves2d/QnGeCurve2d.h"
+#include "frame/QnGeClassId.h"
 #include "frame/QnGeObjList.h"
 
 namespace qn_detail {
+
+using PieceVisit = bool (*)(const QnGeCurve2d& piece, void* context);
+
+/// Whether the curve is exactly a multi-line or a polyline, whose pieces ForEachSegment shows.
+bool IsPlainPolyline(const QnGeCurve2d& curve);
+
+/// ForEachPiece of a multi-line or polyline: the same pieces, without an object made for each.
+///
+/// Requires  IsPlainPolyline.
+bool ForEachSegment(const QnGeCurve2d& curve, PieceVisit visit, void* context);
 
 /// Shows each piece of an exploded curve to `visit` until that answers false; the answer is whether the curve explodes.
 ///
@@ -15,6 +26,16 @@ namespace qn_detail {
 /// Ownership  A piece lives for the length of its visit.
 template <class Visit>
 bool ForEachPiece(const QnGeCurve2d& curve, Visit visit) {
+    if (IsPlainPolyline(curve)) {
+        const PieceVisit visitPiece = [](const QnGeCurve2d& piece, void* context) {
+            return (*static_cast<Visit*>(context))(piece);
+        };
+        return ForEachSegment(curve, visitPiece, &visit);
+    }
+    const long id = curve.GetClassID();
+    if (id >= CLASS_ID_LINE2D && id <= CLASS_ID_ARC2D) {
+        return false;  // lines, circles and arcs do not explode: it is known without asking
+    }
     QnGeObjList pieces;
     if (!curve.Explode(pieces)) {
         return false;

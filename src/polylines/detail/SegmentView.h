@@ -41,30 +41,4 @@ private:
     QnGeArc2d m_arc;
 };
 
-/// Whether the curve is one of the two classes whose pieces ForEachSegment knows; classes derived from them are not.
-inline bool IsPlainPolyline(const QnGeCurve2d& curve) {
-    return curve.GetCI() == &QnGeMLine2d::s_classInfo || curve.GetCI() == &QnGePolyline2d::s_classInfo;
-}
-
-/// Shows to `visit` what Explode of the line would append, in that order, until it answers false.
-///
-/// Requires   IsPlainPolyline.
-/// Ownership  A piece lives for the length of its visit.
-/// Fails      The answer is that of Explode.
-template <class Visit>
-bool ForEachSegment(const QnGeMLine2d& line, Visit visit) {
-    SegmentView view;
-    if (line.GetCI() == &QnGePolyline2d::s_classInfo) {
-        const QnGePolyline2d& polyline = static_cast<const QnGePolyline2d&>(line);
-        const long count = polyline.GetSegNum();
-        for (long i = 0; i < count && visit(view.Get(polyline, i)); i++) {}
-        return true;
-    }
-
-    const long vertexNum = line.GetVertexNum();
-    const long count = line.IsClosed() ? vertexNum : vertexNum - 1;
-    for (long i = 0; i < count && visit(view.Get(line, i)); i++) {}
-    return vertexNum > 0;
-}
-
 }  // namespace qn_detail
