@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Intersect_LineFamily.cpp: what line, ray and segment have in common with each other, and which of them lies on which.
+// Intersect_LineFamily.cpp: what line, ray and segment have in common, and which of them lies on which.
 //
 // Each class answers the pairs with itself and with the classes above it in this table; every other pair it hands to
 // the argument:
@@ -17,9 +17,8 @@
 // Direction  An overlap runs with the receiver where the row does not say otherwise, so a.IntersectWith(b) and
 //            b.IntersectWith(a) may differ. Copies keep the flag word of what they copy.
 // Ownership  The result is new and belongs to `out`; a row that answers false appends nothing.
-// Kept odd   A reversed ray stands for its forward copy as the receiver. As the argument of a segment on its own line
-// it
-//            is asked for its own parameter, so the answer is mirrored.
+// Kept odd   As the receiver a reversed ray stands for its forward copy. As the argument of a segment on its own
+//            line it is asked for its own parameter, so the answer is mirrored.
 // See        Intersect_Circle.cpp, Intersect_Arc.cpp for the further rows.
 
 #include <algorithm>

@@ -146,9 +146,8 @@ public:
 
     /// Cuts `obj` with this curve as the knife and sorts the pieces; neither of the two changes.
     ///
-    /// Order      `in` takes what is HIT_IN or has no side, `out` what is HIT_OUT, `on` what lies on this curve; each
-    /// along
-    ///            `obj`, the piece over the seam of a closed `obj` last.
+    /// Order      `in` takes what is HIT_IN or has no side, `out` what is HIT_OUT, `on` what lies on this curve.
+    ///            Each is filled along `obj`, with the piece over the seam of a closed `obj` last.
     /// Ownership  The pieces are new; a piece for which there is no object is left out.
     virtual void Cut(const QnGeObject& obj, QnGeObjList& in, QnGeObjList& out, QnGeObjList& on) const;
 

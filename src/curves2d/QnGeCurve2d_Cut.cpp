@@ -5,8 +5,7 @@
 //            2  Split          the victim's own Split at these, in ascending order.
 //            3  SortPiece      each piece by the knife's HitTest of its sample point.
 // Order      Each list along the victim; over the seam of a closed one last.
-// Kept odd   What has no side goes to `in`: an open knife whose HitTest knows no sides puts all that is not on it
-// there.
+// Kept odd   What has no side goes to `in`: that is all that is not on an open knife whose HitTest knows no sides.
 
 #include <memory>
 

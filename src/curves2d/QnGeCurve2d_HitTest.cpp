@@ -15,10 +15,9 @@
 //            2  CollectHeights     heights of the crossings over the point, along the vertical line.
 //            3  FindChord          the neighbours a <= 0 < b.
 //            4  IsChordInside      the areas of the two loops: the integral of y dx over one stretch, and the rest.
-// Why so     The chord is vertical, so it adds nothing to the integral of y dx, and the loop's area is the stretch's
-// own
-//            integral. No parity is counted: a tangent touch gives one more crossing and changes nothing, and the
-//            direction of the curve turns both signs.
+// Why so     The chord is vertical, so it adds nothing to the integral of y dx: a loop's area is the integral of its
+//            stretch alone. No parity is counted: a tangent touch gives one more crossing and changes nothing, and
+//            the direction of the curve turns both signs.
 // Tolerance  g_distZero for being on; the heights and the signs of the areas are exact.
 // Cost       One intersection, one sub-curve and two integrals.
 

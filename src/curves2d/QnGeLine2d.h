@@ -71,8 +71,7 @@ public:
     QnGeCurve2d* GetSubCurve(double pa1, double pa2) const override;
     /// A ray to each side and segments between.
     ///
-    /// Order  The first ray runs away from the first cut against the line's vector, then the segments, then the last
-    /// ray.
+    /// Order  The ray that leaves the first cut against the line's vector, the segments, the ray along the vector.
     void Split(const QnDynArrayBase<double>& pas, QnGeObjList& out) const override;
     bool GetPtFromPa(double pa, QnGePoint& pt) const override;
     bool GetPaFromPt(const QnGePoint& pt, double& pa) const override;

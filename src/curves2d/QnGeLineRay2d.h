@@ -12,8 +12,7 @@
 /// Z          base.z + t * vector.z.
 /// Valid      As a line.
 /// Stream     flags, base point x y z, vector x y z, reverse flag. Class id 112.
-/// Kept odd   Handed as an argument to a segment or circle, a reversed ray is asked for its own parameters, so the
-/// answers
+/// Kept odd   As the argument of a segment or circle a reversed ray is asked for its own parameters, so the answers
 ///            are mirrored; as the receiver it stands for its forward copy.
 class QUARNGEO_API QnGeLineRay2d : public QnGeLine2d {
 public:

@@ -50,8 +50,7 @@ public:
     /// Fails  False, and `out` stays, where the two share no stretch.
     bool SubtractBy(const QnGeLineSeg2d& other, QnGeObjList& out) const;
 
-    /// Appends what remains of this segment without any of the segments among `cutters`; other classes there are
-    /// skipped.
+    /// Appends what remains of this segment without any segment of `cutters`; other classes there are skipped.
     ///
     /// Order  In which the pieces were made: whole ones keep their place, what a cutter leaves goes to the tail.
     void SubtractBy(const QnGeObjList& cutters, QnGeObjList& out) const;

@@ -9,9 +9,9 @@ namespace qn_detail {
 
 /// The last row of every dispatch of plane primitives: the pair goes to the argument, with `self` as its argument.
 ///
-/// Why so     A plane primitive and a primitive in space both hand over what they do not know, so the two would pass
-/// the
-///            pair to and fro for ever; they meet nowhere instead. Points and compounds of the other dimension answer.
+/// Why so     A plane primitive and a primitive in space both hand over what they do not know, so the two would
+///            pass the pair to and fro for ever; they meet nowhere instead. Points and compounds of the other
+///            dimension answer.
 /// Ownership  `out` owns what is appended.
 inline bool HandOver(const QnGeObject& self, const QnGeObject& other, QnGeObjList& out) {
     const long id = other.GetClassID();

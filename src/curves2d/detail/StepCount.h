@@ -5,9 +5,8 @@ namespace qn_detail {
 
 /// A computed number of steps cut to whole ones.
 ///
-/// Fails  What is no 32-bit number, infinity and NaN included, gives the most negative one, which every caller takes
-/// for
-///        "too few". So a step of 0 ends there instead of in an undefined conversion.
+/// Fails  What is no 32-bit number, infinity and NaN included, gives the most negative one, which every caller
+///        takes for "too few". So a step of 0 ends there instead of in an undefined conversion.
 inline long StepCount(double count) {
     constexpr double BELOW_ALL = -2147483649.0;
     constexpr double ABOVE_ALL = 2147483648.0;
