@@ -30,6 +30,7 @@
 #include "curves2d/detail/HandOver.h"
 #include "frame/QnGeObjList.h"
 #include "frame/QnGeTolerance.h"
+#include "values/QnGeAnalytic.h"
 #include "values/QnGePoint.h"
 #include "values/QnGePoint2d.h"
 
@@ -37,13 +38,11 @@ namespace {
 
 /// How two carrying lines meet, and where.
 struct Meeting {
-    enum Code { APART = 0, CROSSING = 1, COINCIDENT = 10 };
-
     Meeting(const QnGeBaseLine2d& a, const QnGeBaseLine2d& b) : code(a.IntersectWith(b, tA, tB, false)) {}
 
     double tA = 0.0;  ///< at the crossing, in multiples of a's vector
     double tB = 0.0;  ///< at the crossing, in multiples of b's vector
-    int code;
+    int code;         ///< INTERSECT_NONE, INTERSECT_ONE, or INTERSECT_LINE for one and the same line
 };
 
 bool IsOnRay(double t) {
@@ -88,9 +87,9 @@ bool AppendCopy(const Curve& curve, QnGeObjList& out) {
 bool LineLine(const QnGeLine2d& line, const QnGeLine2d& other, QnGeObjList& out) {
     const Meeting meeting(line, other);
     switch (meeting.code) {
-        case Meeting::COINCIDENT:
+        case INTERSECT_LINE:
             return AppendCopy(line, out);
-        case Meeting::CROSSING:
+        case INTERSECT_ONE:
             return AppendPointAt(line, meeting.tA, out);
         default:
             return false;
@@ -102,9 +101,9 @@ bool LineLine(const QnGeLine2d& line, const QnGeLine2d& other, QnGeObjList& out)
 bool RayLine(const QnGeLineRay2d& ray, const QnGeLine2d& line, QnGeObjList& out) {
     const Meeting meeting(ray, line);
     switch (meeting.code) {
-        case Meeting::COINCIDENT:
+        case INTERSECT_LINE:
             return AppendCopy(ray, out);
-        case Meeting::CROSSING:
+        case INTERSECT_ONE:
             return IsOnRay(meeting.tA) && AppendPointAt(ray, meeting.tA, out);
         default:
             return false;
@@ -131,9 +130,9 @@ bool RayRayOnOneLine(const QnGeLineRay2d& ray, const QnGeLineRay2d& other, QnGeO
 bool RayRay(const QnGeLineRay2d& ray, const QnGeLineRay2d& other, QnGeObjList& out) {
     const Meeting meeting(ray, other);
     switch (meeting.code) {
-        case Meeting::COINCIDENT:
+        case INTERSECT_LINE:
             return RayRayOnOneLine(ray, other, out);
-        case Meeting::CROSSING:
+        case INTERSECT_ONE:
             return IsOnRay(meeting.tA) && IsOnRay(meeting.tB) && AppendPointAt(ray, meeting.tA, out);
         default:
             return false;
@@ -145,9 +144,9 @@ bool RayRay(const QnGeLineRay2d& ray, const QnGeLineRay2d& other, QnGeObjList& o
 bool SegLine(const QnGeLineSeg2d& seg, const QnGeLine2d& line, QnGeObjList& out) {
     const Meeting meeting(seg, line);
     switch (meeting.code) {
-        case Meeting::COINCIDENT:
+        case INTERSECT_LINE:
             return AppendCopy(seg, out);
-        case Meeting::CROSSING:
+        case INTERSECT_ONE:
             return IsOnSegment(meeting.tA) && AppendPointAt(seg, meeting.tA, out);
         default:
             return false;
@@ -181,9 +180,9 @@ bool SegRayOnOneLine(const QnGeLineSeg2d& seg, const QnGeLineRay2d& ray, QnGeObj
 bool SegRay(const QnGeLineSeg2d& seg, const QnGeLineRay2d& ray, QnGeObjList& out) {
     const Meeting meeting(seg, ray);
     switch (meeting.code) {
-        case Meeting::COINCIDENT:
+        case INTERSECT_LINE:
             return SegRayOnOneLine(seg, ray, out);
-        case Meeting::CROSSING:
+        case INTERSECT_ONE:
             return IsOnSegment(meeting.tA) && IsOnRay(meeting.tB) && AppendPointAt(seg, meeting.tA, out);
         default:
             return false;
@@ -216,9 +215,9 @@ bool SegSegOnOneLine(const QnGeLineSeg2d& seg, const QnGeLineSeg2d& other, QnGeO
 bool SegSeg(const QnGeLineSeg2d& seg, const QnGeLineSeg2d& other, QnGeObjList& out) {
     const Meeting meeting(seg, other);
     switch (meeting.code) {
-        case Meeting::COINCIDENT:
+        case INTERSECT_LINE:
             return SegSegOnOneLine(seg, other, out);
-        case Meeting::CROSSING:
+        case INTERSECT_ONE:
             return IsOnSegment(meeting.tA) && IsOnSegment(meeting.tB) && AppendPointAt(seg, meeting.tA, out);
         default:
             return false;
