@@ -63,8 +63,7 @@ public:
     void Reset();
 
 private:
-    void CloneBoundaries(const QnGeRegion2d& other);
-    bool IsHoleMeetingBoundary(const QnGeCurve2d& hole) const;
+    void EnsureOutlineEntry();
 
     QnGeObjList m_boundaries;
 };

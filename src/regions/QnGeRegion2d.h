@@ -139,4 +139,8 @@ public:
     /// Requires  All entries are regions.
     /// Fails     A list without entries appends a clone of this region.
     void SubtractBy(const QnGeObjList& regions, QnGeObjList& out) const;
+
+protected:
+    /// Whether `hole`, which is no boundary yet, meets one of the boundaries.
+    bool IsMeetingBoundary(const QnGeCurve2d& hole) const;
 };

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "containers/QnDList.h"
-#include "containers/QnDynArray.h"
 #include "containers/QnPDList.h"
 #include "regions/detail/PtNode.h"
 
@@ -29,10 +28,11 @@ public:
 private:
     friend class PtGraphBuilder;
 
-    void MarkForRemoval(PtNode::Position entry);
+    /// Drops the marked entries and those whose node another entry lists already, then lists the rest.
     void CleanUp();
 
-    QnDList<PtNode::Position> m_marked;  ///< entries of this list that CleanUp drops
+    QnDList<PtNode::Position> m_marked;  // entries of this list that CleanUp drops
+    QnPDList<PtNode> m_unlisted;         // nodes that have no entry of their own
 };
 
 }  // namespace qn_detail

@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// CrossingGraph.cpp: linking the crossings of two straight outlines into one graph, part 2 of 3 (CrossingSearch.cpp
+// before it, CrossingGraph_Trace.cpp after it).
+//
+// Each outline is a ring of its vertices. A crossing is threaded into both rings; where it falls on a vertex it takes
+// the vertex's place, so that a corner on a corner becomes one node on both rings:
+//
+//         A:  a0 ---> x ---> a1            prev[0] <- x -> next[0]   along A
+//                     |                    prev[1] <- x -> next[1]   along B
+//         B:  b3 ---> x ---> b4
+//
+// Phases     1  CrossingSearch  the pairs of edges that meet
+//            2  Enter           one node per pair, threaded into the first ring, then into the second
+// Invariant  After each Enter, nodes[n.next[s]].prev[s] == n and nodes[n.prev[s]].next[s] == n wherever those links
+// lead
+//            to nodes. A link to a plain vertex leads to the vertex right after or before the node's own, and a node
+//            inside an edge has nodes on both sides.
+// Why so     Nearly all vertices of a long outline never meet a crossing. They need no node, no links and no marks: a
+//            walk enters a run of them only through the node before it, so that node's marks speak for the run.
+// Order      Crossings are entered in the order of the search. Of several pairs that meet at one corner the last one's
+//            point stays.
+// Ownership  Nodes stand in one block and are named by number. A node that was replaced keeps its place and names its
+//            successor, for the positions that still lead to it.
+#include "regions/detail/CrossingGraph.h"
+
+#include "frame/QnGeTolerance.h"
+#include "polylines/QnGeMLine2d.h"
+
+namespace qn_detail {
+
+CrossingGraph::Outline::Outline(const QnGeMLine2d& line, const QnGePoint& centre)
+    : index(line, centre), isClosed(line.IsClosed()), nodeOf(line.GetVertexNum()) {
+    for (std::int32_t& node : nodeOf) {
+        node = NONE;
+    }
+}
+
+CrossingGraph::CrossingGraph(const QnGeMLine2d& first, const QnGeMLine2d& second) {
+    const QnGePoint centre = first.GetVertexNum() > 0 ? first.GetVertex(0) : QnGePoint();
+    m_outlines[0] = std::make_unique<Outline>(first, centre);
+    m_outlines[1] = std::make_unique<Outline>(second, centre);
+}
+
+bool CrossingGraph::Build() {
+    PodArray<EdgeCrossing> crossings;
+    CrossingSearch(GetIndex(0), GetIndex(1)).Run(crossings);
+    for (const EdgeCrossing& crossing : crossings) {
+        Enter(crossing);
+    }
+    return !crossings.IsEmpty();
+}
+
+void CrossingGraph::Enter(const EdgeCrossing& crossing) {
+    const QnGePoint& start = GetIndex(0).GetVertex(crossing.edge[0]);
+    const QnGePoint& end = GetIndex(0).GetEdgeEnd(crossing.edge[0]);
+    const double paA = crossing.pa[0];
+    Node fresh = {
+        {start.x + paA * (end.x - start.x), start.y + paA * (end.y - start.y), start.z + paA * (end.z - start.z)},
+        {crossing.pa[0], crossing.pa[1]},
+        {NO_LINK, NO_LINK},
+        {NO_LINK, NO_LINK},
+        {NONE, NONE},
+        NONE,
+        NONE,
+        0,
+        crossing.flags};
+    long vertex[2];
+    for (int side = 0; side < 2; ++side) {
+        vertex[side] = crossing.edge[side];
+        if (IsZero(crossing.pa[side] - 1.0, g_fZero)) {
+            vertex[side] = GetIndex(side).GetVertexAfter(vertex[side]);
+            fresh.pa[side] = 0.0;
+        }
+    }
+    const auto node = static_cast<std::int32_t>(m_nodes.Append(fresh));
+    for (int side = 0; side < 2; ++side) {
+        Insert(node, GetNodeOfVertex(vertex[side], side), side);
+    }
+    if (fresh.pa[0] > g_fZero && fresh.pa[1] > g_fZero) {
+        if (m_nodes[node].free == NONE) {
+            m_nodes[node].free = static_cast<std::int32_t>(m_free.Append(node));
+        }
+    } else if (IsZero(fresh.pa[0], g_fZero) && IsZero(fresh.pa[1], g_fZero)) {
+        m_droppedVertex.Append(static_cast<std::int32_t>(vertex[1]));
+    }
+}
+
+// Threads `node` into a ring by its parameter, from the vertex node `at` of its edge onward.
+void CrossingGraph::Insert(std::int32_t node, std::int32_t at, int side) {
+    while (at != node) {
+        const double ahead = m_nodes[node].pa[side] - m_nodes[at].pa[side];
+        if (IsZero(ahead, g_fZero)) {
+            Replace(at, node);
+            return;
+        }
+        if (IsLess(ahead, g_fZero)) {
+            LinkBefore(node, at, side);
+            return;
+        }
+        const Link next = m_nodes[at].next[side];
+        if (next < 0 || IsZero(m_nodes[next].pa[side], g_fZero)) {  // the next vertex: the edge ends here
+            LinkAfter(node, at, side);
+            return;
+        }
+        at = next;
+    }
+}
+
+void CrossingGraph::LinkBefore(std::int32_t node, std::int32_t at, int side) {
+    if (IsLinked(node, side)) {
+        return;
+    }
+    const Link before = MakeNode(m_nodes[at].prev[side], side);
+    m_nodes[node].prev[side] = before;
+    m_nodes[node].next[side] = at;
+    m_nodes[at].prev[side] = node;
+    if (before != NO_LINK) {
+        m_nodes[before].next[side] = node;
+    }
+}
+
+void CrossingGraph::LinkAfter(std::int32_t node, std::int32_t at, int side) {
+    if (IsLinked(node, side)) {
+        return;
+    }
+    const Link after = MakeNode(m_nodes[at].next[side], side);
+    m_nodes[node].next[side] = after;
+    m_nodes[node].prev[side] = at;
+    m_nodes[at].next[side] = node;
+    if (after != NO_LINK) {
+        m_nodes[after].prev[side] = node;
+    }
+}
+
+void CrossingGraph::Unlink(std::int32_t node, int side) {
+    const Link before = MakeNode(m_nodes[node].prev[side], side);
+    const Link after = MakeNode(m_nodes[node].next[side], side);
+    if (before != NO_LINK) {
+        m_nodes[before].next[side] = after;
+    }
+    if (after != NO_LINK) {
+        m_nodes[after].prev[side] = before;
+    }
+    m_nodes[node].next[side] = NO_LINK;
+    m_nodes[node].prev[side] = NO_LINK;
+}
+
+// `node` takes over the flags, the links on both rings and the positions of `old`, and keeps its own parameters.
+void CrossingGraph::Replace(std::int32_t old, std::int32_t node) {
+    for (int side = 0; side < 2; ++side) {
+        if (IsLinked(old, side)) {
+            if (IsLinked(node, side)) {
+                Unlink(node, side);
+            }
+            TakeLinks(old, node, side);
+        }
+        const std::int32_t vertex = m_nodes[old].vertex[side];
+        if (vertex != NONE) {
+            m_nodes[node].vertex[side] = vertex;
+            m_outlines[side]->nodeOf[vertex] = node;
+        }
+    }
+    Node& gone = m_nodes[old];
+    Node& here = m_nodes[node];
+    here.flags |= gone.flags;
+    if (gone.free != NONE) {
+        here.free = gone.free;
+        m_free[gone.free] = node;
+    }
+    gone.successor = node;
+}
+
+// A plain neighbour finds its way by the vertex number and needs no new link.
+void CrossingGraph::TakeLinks(std::int32_t old, std::int32_t node, int side) {
+    Node& gone = m_nodes[old];
+    Node& here = m_nodes[node];
+    here.next[side] = gone.next[side] == old ? node : gone.next[side];
+    here.prev[side] = gone.prev[side] == old ? node : gone.prev[side];
+    if (here.next[side] >= 0) {
+        m_nodes[here.next[side]].prev[side] = node;
+    }
+    if (here.prev[side] >= 0) {
+        m_nodes[here.prev[side]].next[side] = node;
+    }
+    gone.next[side] = NO_LINK;
+    gone.prev[side] = NO_LINK;
+}
+
+// The link itself, or that of a node made from the plain vertex it leads to.
+CrossingGraph::Link CrossingGraph::MakeNode(Link link, int side) {
+    return link >= 0 || link == NO_LINK ? link : GetNodeOfVertex(~link, side);
+}
+
+std::int32_t CrossingGraph::GetNodeOfVertex(long vertex, int side) {
+    const std::int32_t node = m_outlines[side]->nodeOf[vertex];
+    return node == NONE ? MakeVertexNode(vertex, side) : GetCurrent(node);
+}
+
+std::int32_t CrossingGraph::MakeVertexNode(long vertex, int side) {
+    const QnGePoint& point = GetIndex(side).GetVertex(vertex);
+    Node fresh = {{point.x, point.y, point.z},
+                  {0.0, 0.0},
+                  {NO_LINK, NO_LINK},
+                  {NO_LINK, NO_LINK},
+                  {NONE, NONE},
+                  NONE,
+                  NONE,
+                  0,
+                  0};
+    fresh.vertex[side] = static_cast<std::int32_t>(vertex);
+    const auto node = static_cast<std::int32_t>(m_nodes.GetLength());
+    const bool isFirst = vertex == 0;
+    const bool isLast = vertex + 1 == GetIndex(side).GetVertexNum();
+    const bool isClosed = m_outlines[side]->isClosed;
+    if (isClosed || !isLast) {
+        fresh.next[side] = GetLinkTo(isLast ? 0 : vertex + 1, side);
+    }
+    if (isClosed || !isFirst) {
+        fresh.prev[side] = GetLinkTo(isFirst ? GetIndex(side).GetVertexNum() - 1 : vertex - 1, side);
+    }
+    m_nodes.Append(fresh);
+    m_outlines[side]->nodeOf[vertex] = node;
+    if (fresh.next[side] >= 0) {
+        m_nodes[fresh.next[side]].prev[side] = node;
+    }
+    if (fresh.prev[side] >= 0) {
+        m_nodes[fresh.prev[side]].next[side] = node;
+    }
+    return node;
+}
+
+CrossingGraph::Link CrossingGraph::GetLinkTo(long vertex, int side) const {
+    const std::int32_t node = m_outlines[side]->nodeOf[vertex];
+    return node == NONE ? ~static_cast<Link>(vertex) : GetCurrent(node);
+}
+
+std::int32_t CrossingGraph::GetCurrent(std::int32_t node) const {
+    while (m_nodes[node].successor != NONE) {
+        node = m_nodes[node].successor;
+    }
+    return node;
+}
+
+void CrossingGraph::GetOrder(PodArray<std::int32_t>& order) const {
+    PodArray<unsigned char> isDropped(m_outlines[1]->nodeOf.GetLength());
+    for (unsigned char& dropped : isDropped) {
+        dropped = 0;
+    }
+    for (const std::int32_t vertex : m_droppedVertex) {
+        isDropped[vertex] = 1;
+    }
+    for (int side = 1; side >= 0; --side) {
+        const PodArray<std::int32_t>& nodeOf = m_outlines[side]->nodeOf;
+        for (long vertex = 0; vertex < nodeOf.GetLength(); ++vertex) {
+            if (nodeOf[vertex] != NONE && (side == 0 || isDropped[vertex] == 0)) {
+                order.Append(GetCurrent(nodeOf[vertex]));
+            }
+        }
+    }
+    for (const std::int32_t node : m_free) {
+        order.Append(GetCurrent(node));
+    }
+}
+
+}  // namespace qn_detail
