@@ -37,7 +37,7 @@ QnGeCircle2d::QnGeCircle2d(bool ccw) {
     SetBit(OBJ_CLOCKWISE, !ccw);
 }
 
-QnGeCircle2d::QnGeCircle2d(const QnGePoint& centre, double radius, bool ccw) : QnGeBaseCircle(centre, radius) {
+QnGeCircle2d::QnGeCircle2d(const QnGePoint& centre, double size, bool ccw) : QnGeBaseCircle(centre, size) {
     SetBit(OBJ_CLOCKWISE, !ccw);
 }
 
