@@ -43,10 +43,10 @@ OutlineIndex::OutlineIndex(const QnGeMLine2d& outline, const QnGePoint& centre)
       m_edgeNum(outline.GetSegNum()),
       m_centreX(centre.x),
       m_centreY(centre.y) {
-    const long blocks = GetBlockNum();
-    m_edgeBoxes.reset(new BoxLanes[Index(blocks)]);
-    m_directions.reset(new EdgeDirection[Index(m_edgeNum)]);
-    m_made.reset(new unsigned char[Index(blocks)]());
+    const long vertexBlocks = (m_vertexNum + LANES - 1) / LANES;
+    m_edgeBoxes.reset(new BoxLanes[Index(GetBlockNum())]);
+    m_directions.reset(new EdgeDirection[Index(m_vertexNum)]);
+    m_made.reset(new unsigned char[Index(vertexBlocks)]());
     if (m_edgeNum > 0) {
         MakeUpperLevels();
     }
@@ -126,7 +126,7 @@ void OutlineIndex::MakeEdgeBoxes(long block) {
 
 void OutlineIndex::MakeDirections(long block) {
     const long first = block * LANES;
-    const long last = std::min(first + LANES, m_edgeNum);
+    const long last = std::min(first + LANES, m_vertexNum);
     for (long i = first; i < last; ++i) {
         QnGeVector2d vector(m_vertices[i], GetEdgeEnd(i));
         const double length = vector.Length();
@@ -138,7 +138,7 @@ void OutlineIndex::MakeDirections(long block) {
 
 long OutlineIndex::GetMemory() const {
     const std::size_t blocks = Index(GetBlockNum());
-    return static_cast<long>(blocks * (sizeof(BoxLanes) + 1) + Index(m_edgeNum) * sizeof(EdgeDirection) +
+    return static_cast<long>(blocks * (sizeof(BoxLanes) + 1) + Index(m_vertexNum) * sizeof(EdgeDirection) +
                              Index(m_upper.GetLength()) * sizeof(BoxLanes));
 }
 

@@ -46,7 +46,8 @@ public:
     const QnGePoint& GetVertex(long i) const { return m_vertices[i]; }
 
     /// The vertex at the end of edge `i`, with the wrap of a closed outline.
-    const QnGePoint& GetEdgeEnd(long i) const { return m_vertices[i + 1 < m_vertexNum ? i + 1 : 0]; }
+    long GetVertexAfter(long i) const { return i + 1 < m_vertexNum ? i + 1 : 0; }
+    const QnGePoint& GetEdgeEnd(long i) const { return m_vertices[GetVertexAfter(i)]; }
 
     /// The box of the whole outline.
     const FloatBox& GetHull() const { return m_hull; }
@@ -60,7 +61,8 @@ public:
     /// The boxes of the edges of a block.
     const BoxLanes& GetEdgeBoxes(long block);
 
-    const EdgeDirection& GetDirection(long edge);
+    /// Of the edge that starts at a vertex; of an open outline's last vertex, of the edge that would close it.
+    const EdgeDirection& GetDirection(long vertex);
 
     /// Bytes held beside the object itself.
     long GetMemory() const;
@@ -100,12 +102,12 @@ inline const BoxLanes& OutlineIndex::GetEdgeBoxes(long block) {
     return m_edgeBoxes[static_cast<std::size_t>(block)];
 }
 
-inline const EdgeDirection& OutlineIndex::GetDirection(long edge) {
-    const long block = edge / BoxLanes::COUNT;
+inline const EdgeDirection& OutlineIndex::GetDirection(long vertex) {
+    const long block = vertex / BoxLanes::COUNT;
     if ((m_made[static_cast<std::size_t>(block)] & HAS_DIRECTIONS) == 0) {
         MakeDirections(block);
     }
-    return m_directions[static_cast<std::size_t>(edge)];
+    return m_directions[static_cast<std::size_t>(vertex)];
 }
 
 }  // namespace qn_detail

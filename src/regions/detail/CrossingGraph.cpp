@@ -86,8 +86,9 @@ void CrossingGraph::Enter(const EdgeCrossing& crossing) {
     }
 }
 
-// Threads `node` into a ring by its parameter, from the vertex node `at` of its edge onward.
-void CrossingGraph::Insert(std::int32_t node, std::int32_t at, int side) {
+// Threads `node` into a ring by its parameter, from the vertex node `start` of its edge onward.
+void CrossingGraph::Insert(std::int32_t node, std::int32_t start, int side) {
+    std::int32_t at = start;
     while (at != node) {
         const double ahead = m_nodes[node].pa[side] - m_nodes[at].pa[side];
         if (IsZero(ahead, g_fZero)) {
@@ -99,7 +100,8 @@ void CrossingGraph::Insert(std::int32_t node, std::int32_t at, int side) {
             return;
         }
         const Link next = m_nodes[at].next[side];
-        if (next < 0 || IsZero(m_nodes[next].pa[side], g_fZero)) {  // the next vertex: the edge ends here
+        const bool edgeEnds = next < 0 || next == start || IsZero(m_nodes[next].pa[side], g_fZero);
+        if (edgeEnds) {
             LinkAfter(node, at, side);
             return;
         }

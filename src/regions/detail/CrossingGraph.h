@@ -78,7 +78,7 @@ private:
     };
 
     void Enter(const EdgeCrossing& crossing);
-    void Insert(std::int32_t node, std::int32_t at, int side);
+    void Insert(std::int32_t node, std::int32_t start, int side);
     void LinkBefore(std::int32_t node, std::int32_t at, int side);
     void LinkAfter(std::int32_t node, std::int32_t at, int side);
     void Unlink(std::int32_t node, int side);

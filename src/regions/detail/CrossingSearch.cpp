@@ -211,9 +211,8 @@ std::uint32_t CrossingSearch::GetFlagsOfOne(OutlineIndex& own, long edge, double
     if (!atStart && !IsZero(pa - 1.0, m_fZero)) {
         return crossesToRight ? leaves : enters;
     }
-    const long edges = own.GetEdgeNum();
-    const EdgeDirection& in = own.GetDirection(atStart ? (edge == 0 ? edges : edge) - 1 : edge);
-    const EdgeDirection& out = own.GetDirection(atStart ? edge : (edge + 1 == edges ? 0 : edge + 1));
+    const EdgeDirection& in = own.GetDirection(atStart ? (edge == 0 ? own.GetVertexNum() : edge) - 1 : edge);
+    const EdgeDirection& out = own.GetDirection(atStart ? edge : own.GetVertexAfter(edge));
     const bool runsAlong = atStart ? IsZero(Cross(in, across), m_fZero) && IsLess(Dot(in, across), m_fZero)
                                    : IsZero(Cross(out, across), m_fZero) && IsGreater(Dot(out, across), m_fZero);
     if (runsAlong) {
