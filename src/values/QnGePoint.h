@@ -102,8 +102,8 @@ public:
 
     /// The lexicographic order of x, y, z, in which coordinates that differ by no more than g_distZero are equal.
     ///
-    /// Laws  `a > b` and `b > a` exclude each other. Being neither is no equivalence: a row of points a little apart
-    ///       is pairwise neither, its ends are not.
+    /// Laws  `a > b` and `b > a` exclude each other. Being neither is no equivalence: in a row of points a
+    ///       little apart, neighbours are neither and the ends are one or the other.
     bool operator>(const QnGePoint& p) const {
         const double gapX = x - p.x;
         if (IsGreater(gapX, g_distZero)) {
