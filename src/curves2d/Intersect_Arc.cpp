@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <utility>
 
 #include "curves2d/QnGeArc2d.h"
 #include "curves2d/detail/HandOver.h"
@@ -124,11 +125,11 @@ bool OverlapAfterStart(const QnGeArc2d& arc, std::unique_ptr<QnGeArc2d> b, doubl
 // Tolerance  g_angleZero stands for all of this for the angle whose chord is g_distZero, so that arcs which touch
 // within
 //            g_distZero share a point and no stretch, whatever the radius.
-// Why so     GetStdAngle and IsClosed read g_angleZero themselves. Narrowing the global is what makes their snapping
+// Why so     GetStdAngle and IsClosed read g_angleZero themselves. Setting the global is what makes their snapping
 //            agree with the comparisons here.
 // Order      The stretch at the start of `arc` comes before the one at its end.
 bool OverlapOnOneCircle(const QnGeArc2d& arc, const QnGeArc2d& other, QnGeObjList& result) {
-    const QnPushVar<double> narrowed(g_angleZero, AngleOfDistZero(arc.GetRadius()));
+    const QnPushVar<double> fitted(g_angleZero, AngleOfDistZero(arc.GetRadius()));
     if (other.IsClosed()) {
         result.Append(new QnGeArc2d(arc));
         return true;
