@@ -122,9 +122,8 @@ bool OverlapAfterStart(const QnGeArc2d& arc, std::unique_ptr<QnGeArc2d> b, doubl
 // Phases     1  A closed arc covers all: the answer is a copy of the other one as it stands.
 //            2  e <= b tells that B runs over the start of `arc`: OverlapOverStart, up to two answers.
 //            3  Otherwise OverlapAfterStart, at most one.
-// Tolerance  g_angleZero stands for all of this for the angle whose chord is g_distZero, so that arcs which touch
-// within
-//            g_distZero share a point and no stretch, whatever the radius.
+// Tolerance  g_angleZero stands for the angle whose chord is g_distZero as long as this runs, so that arcs which touch
+//            within g_distZero share a point and no stretch, whatever the radius.
 // Why so     GetStdAngle and IsClosed read g_angleZero themselves. Setting the global is what makes their snapping
 //            agree with the comparisons here.
 // Order      The stretch at the start of `arc` comes before the one at its end.
