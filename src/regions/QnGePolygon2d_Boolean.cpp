@@ -17,7 +17,7 @@
 // Why so     A vertex on the other outline decides nothing, hence the walk goes on to the first that is clearly in or
 //            out. If all of them are on it, the polygon is taken to be covered by the other one.
 // Ownership  All results are new; the operands are read only.
-// Order      Results come in the order of the rings, see PtGraph_Trace.cpp.
+// Order      Results come in the order of the rings, see CrossingGraph_Trace.cpp.
 // Kept odd   The last sentence of "Why so" is wrong for a polygon that fills a bay of the other one from outside with
 //            all its vertices: Inter gives a copy of it.
 // See        docs/algorithms/polygon-booleans.md
@@ -27,18 +27,18 @@
 #include "frame/QnGeObjList.h"
 #include "regions/QnGeGeneralPolygon2d.h"
 #include "regions/QnGePolygon2d.h"
-#include "regions/detail/PtGraph.h"
+#include "regions/detail/CrossingGraph.h"
 
 namespace {
 
-using qn_detail::PtGraph;
+using qn_detail::CrossingGraph;
 using RingList = QnPDList<QnGeMLine2d>;
 
 constexpr long MIN_RING_VERTICES = 3;
 
-void FindRings(const QnGeMLine2d& first, const QnGeMLine2d& second, PtGraph::TraceKind kind, RingList& rings) {
-    PtGraph graph;
-    if (graph.Build(first, second)) {
+void FindRings(const QnGeMLine2d& first, const QnGeMLine2d& second, CrossingGraph::TraceKind kind, RingList& rings) {
+    CrossingGraph graph(first, second);
+    if (graph.Build()) {
         graph.Trace(kind, rings);
     }
 }
@@ -162,7 +162,7 @@ QnGeRegion2d* QnGePolygon2d::Union(const QnGePolygon2d& other) const {
         return CopyOutlinePart(*this);
     }
     RingList rings;
-    FindRings(m_outline, other.m_outline, PtGraph::TraceKind::UNION, rings);
+    FindRings(m_outline, other.m_outline, CrossingGraph::TraceKind::UNION, rings);
     if (rings.GetLength() == 1) {
         return MakePolygon(*rings.GetAt(0)).release();
     }
@@ -183,7 +183,7 @@ bool QnGePolygon2d::Inter(const QnGePolygon2d& other, QnGeObjList& out) const {
         return false;
     }
     RingList rings;
-    FindRings(m_outline, other.m_outline, PtGraph::TraceKind::INTER, rings);
+    FindRings(m_outline, other.m_outline, CrossingGraph::TraceKind::INTER, rings);
     if (!rings.IsEmpty()) {
         AppendPolygons(rings, out);
         return true;
@@ -210,7 +210,7 @@ void QnGePolygon2d::SubtractBy(const QnGePolygon2d& other, QnGeObjList& out) con
     QnGeMLine2d outside(other.m_outline);  // the outline of all that is not in `other`
     outside.Reverse();
     RingList rings;
-    FindRings(m_outline, outside, PtGraph::TraceKind::INTER, rings);
+    FindRings(m_outline, outside, CrossingGraph::TraceKind::INTER, rings);
 
     if (rings.GetLength() == 2) {
         std::unique_ptr<QnGePolygon2d> first = MakePolygon(*rings.GetAt(0));

@@ -5,9 +5,9 @@
 // A boundary curve can cut an object into pieces inside, outside and along itself (QnGeCurve2d::Cut). A region is its
 // outline less its holes, so its clip is a chain of such cuts:
 //
-//     object --outline.Cut--> inside ---hole 1.Cut--> outside ---hole 2.Cut--> ... --> in
-//                               |  \                     |  \
-//                              out  on       (in a hole) out  on
+//     object --outline.Cut--> inside --hole 1.Cut--> outside --hole 2.Cut--> ... --> in
+//                    |                      |
+//                    +--> out, on           +--> out (in the hole), on
 //
 // Phases     1  CutByOutline  without an outline everything is inside.
 //            2  Each hole     sends what lies inside it to `out`; what lies outside goes on to the next hole.

@@ -30,6 +30,9 @@ public:
 
     void Clear() { m_length = 0; }
 
+    /// Bytes of the block.
+    long GetMemory() const { return m_space * static_cast<long>(sizeof(T)); }
+
     /// Appends a record and gives its index. The block at least doubles when it is full.
     long Append(const T& record) {
         if (m_length == m_space) {

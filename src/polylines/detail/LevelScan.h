@@ -56,9 +56,13 @@ private:
 
 #if defined(__SSE2__)
 
-inline __m128d LoadLevels(const QnGePoint* p) { return _mm_loadh_pd(_mm_load_sd(&p[0].y), &p[1].y); }
+inline __m128d LoadLevels(const QnGePoint* p) {
+    return _mm_loadh_pd(_mm_load_sd(&p[0].y), &p[1].y);
+}
 
-inline double LargerOf(__m128d pair) { return std::max(_mm_cvtsd_f64(pair), _mm_cvtsd_f64(_mm_unpackhi_pd(pair, pair))); }
+inline double LargerOf(__m128d pair) {
+    return std::max(_mm_cvtsd_f64(pair), _mm_cvtsd_f64(_mm_unpackhi_pd(pair, pair)));
+}
 
 inline double SmallerOf(__m128d pair) {
     return std::min(_mm_cvtsd_f64(pair), _mm_cvtsd_f64(_mm_unpackhi_pd(pair, pair)));

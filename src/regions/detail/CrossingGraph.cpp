@@ -24,6 +24,8 @@
 //            successor, for the positions that still lead to it.
 #include "regions/detail/CrossingGraph.h"
 
+#include <algorithm>
+
 #include "frame/QnGeTolerance.h"
 #include "polylines/QnGeMLine2d.h"
 
@@ -31,9 +33,7 @@ namespace qn_detail {
 
 CrossingGraph::Outline::Outline(const QnGeMLine2d& line, const QnGePoint& centre)
     : index(line, centre), isClosed(line.IsClosed()), nodeOf(line.GetVertexNum()) {
-    for (std::int32_t& node : nodeOf) {
-        node = NONE;
-    }
+    std::fill(nodeOf.begin(), nodeOf.end(), NONE);
 }
 
 CrossingGraph::CrossingGraph(const QnGeMLine2d& first, const QnGeMLine2d& second) {
@@ -245,24 +245,42 @@ std::int32_t CrossingGraph::GetCurrent(std::int32_t node) const {
 }
 
 void CrossingGraph::GetOrder(PodArray<std::int32_t>& order) const {
-    PodArray<unsigned char> isDropped(m_outlines[1]->nodeOf.GetLength());
-    for (unsigned char& dropped : isDropped) {
-        dropped = 0;
-    }
+    PodArray<unsigned char> isListed(m_nodes.GetLength());
+    std::fill(isListed.begin(), isListed.end(), static_cast<unsigned char>(0));
+    const auto list = [&](std::int32_t entry) {
+        const std::int32_t node = GetCurrent(entry);
+        if (isListed[node] == 0) {
+            isListed[node] = 1;
+            order.Append(node);
+        }
+    };
+    const PodArray<std::int32_t>& ofSecond = m_outlines[1]->nodeOf;
+    PodArray<unsigned char> isDropped(ofSecond.GetLength());
+    std::fill(isDropped.begin(), isDropped.end(), static_cast<unsigned char>(0));
     for (const std::int32_t vertex : m_droppedVertex) {
         isDropped[vertex] = 1;
     }
-    for (int side = 1; side >= 0; --side) {
-        const PodArray<std::int32_t>& nodeOf = m_outlines[side]->nodeOf;
-        for (long vertex = 0; vertex < nodeOf.GetLength(); ++vertex) {
-            if (nodeOf[vertex] != NONE && (side == 0 || isDropped[vertex] == 0)) {
-                order.Append(GetCurrent(nodeOf[vertex]));
-            }
+    for (long vertex = 0; vertex < ofSecond.GetLength(); ++vertex) {
+        if (ofSecond[vertex] != NONE && isDropped[vertex] == 0) {
+            list(ofSecond[vertex]);
+        }
+    }
+    for (const std::int32_t node : m_outlines[0]->nodeOf) {
+        if (node != NONE) {
+            list(node);
         }
     }
     for (const std::int32_t node : m_free) {
-        order.Append(GetCurrent(node));
+        list(node);
     }
+}
+
+long CrossingGraph::GetMemory() const {
+    long bytes = m_nodes.GetMemory() + m_free.GetMemory() + m_droppedVertex.GetMemory();
+    for (const std::unique_ptr<Outline>& outline : m_outlines) {
+        bytes += outline->index.GetMemory() + outline->nodeOf.GetMemory();
+    }
+    return bytes;
 }
 
 }  // namespace qn_detail

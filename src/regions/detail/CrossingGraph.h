@@ -9,7 +9,7 @@
 #include "containers/detail/PodArray.h"
 #include "polylines/detail/OutlineIndex.h"
 #include "regions/detail/CrossingSearch.h"
-#include "regions/detail/PtNode.h"
+#include "regions/detail/PtFlag.h"
 
 class QnGeMLine2d;
 
@@ -65,7 +65,8 @@ public:
     const PodArray<Node>& GetNodes() const { return m_nodes; }
 
     /// The nodes in the order in which walks start: those at vertices of the second outline, those at vertices of the
-    /// first, free crossings as they were found. A node that is a vertex of both stands with the first outline's.
+    /// first, free crossings as they were found. A node that is a vertex of both stands with the first outline's, and
+    /// one that is several vertices stands where it comes first.
     void GetOrder(PodArray<std::int32_t>& order) const;
 
 private:

@@ -24,7 +24,7 @@
 #include <cmath>
 
 #include "frame/QnGeTolerance.h"
-#include "regions/detail/PtNode.h"
+#include "regions/detail/PtFlag.h"
 
 namespace qn_detail {
 

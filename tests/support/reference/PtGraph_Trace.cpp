@@ -23,7 +23,7 @@
 #include <memory>
 
 #include "polylines/QnGeMLine2d.h"
-#include "regions/detail/PtGraph.h"
+#include "support/reference/PtGraph.h"
 
 namespace qn_detail {
 

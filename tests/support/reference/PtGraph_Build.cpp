@@ -40,7 +40,7 @@
 #include "containers/QnDynArray.h"
 #include "frame/QnGeTolerance.h"
 #include "polylines/QnGeMLine2d.h"
-#include "regions/detail/PtGraph.h"
+#include "support/reference/PtGraph.h"
 #include "values/QnGeBaseLine2d.h"
 
 namespace qn_detail {

@@ -3,7 +3,7 @@
 
 #include "containers/QnDList.h"
 #include "containers/QnPDList.h"
-#include "regions/detail/PtNode.h"
+#include "support/reference/PtNode.h"
 
 class QnGeMLine2d;
 

@@ -4,19 +4,10 @@
 #include <cstdint>
 
 #include "base/QnBitData.h"
+#include "regions/detail/PtFlag.h"
 #include "values/QnGePoint.h"
 
 namespace qn_detail {
-
-/// Marks of a PtNode. A and B are the first and the second polygon.
-enum PtFlag : std::uint32_t {
-    PT_B_LEAVES = 0x10,  ///< walking B, one leaves A here
-    PT_B_ENTERS = 0x20,  ///< walking B, one enters A here
-    PT_A_LEAVES = 0x40,  ///< walking A, one leaves B here
-    PT_A_ENTERS = 0x80,  ///< walking A, one enters B here
-    PT_DONE_A = 0x100,   ///< the trace has left this node along A
-    PT_DONE_B = 0x200    ///< the trace has left this node along B
-};
 
 /// A node of the crossing graph: a vertex of A, a vertex of B, a crossing of both, or several of these in one place.
 ///
