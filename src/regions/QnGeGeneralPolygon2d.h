@@ -78,9 +78,8 @@ public:
     ///
     /// Direction  With `check` a hole is stored clockwise, in whichever direction it comes.
     /// Ownership  Takes `hole` over in any case; a refused one is deleted.
-    /// Fails      False for null. With `check` also for a hole that is not in the region so far, hence for one that
-    /// lies in an
-    ///            earlier hole, and, unless boundaries may meet, for one that meets a boundary.
+    /// Fails      False for null. With `check` also for a hole that is not in the region so far, so for one that lies
+    ///            in an earlier hole, and, unless boundaries may meet, for one that meets a boundary.
     bool AppendHole(QnGeMLine2d* hole, bool check);
 
 private:

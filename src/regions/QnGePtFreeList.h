@@ -13,7 +13,7 @@
 class QUARNGEO_API QnGePtFreeList : public QnFreeList<QnGePoint> {
 public:
     QnGePtFreeList() = default;
-    explicit QnGePtFreeList(const QnGePoint& point) { data = point; }
+    explicit QnGePtFreeList(const QnGePoint& point) : QnFreeList<QnGePoint>(point) {}
 
     QnGePtFreeList* GetNext() const { return static_cast<QnGePtFreeList*>(next); }
 
