@@ -10,21 +10,36 @@
 //    p -----+-+------   p ----+-+-----     a run of vertices on the level is crossed once
 //              \                           or not at all
 //
-// Phases     1  each edge by itself: on, crossed, crossed at its end, or missed (TestChord)
-//            2  at an end vertex: PassesLevelAfter
-//            3  parity
+// Phases     1  LevelScan passes over the edges that stay above or below the ray, several at a time
+//            2  TestNearEdge: an edge wholly left of the point is missed, one that crosses the ray's band well to the
+//               right of the point is crossed
+//            3  TestEdge: what is left, by the stated rule: on, crossed, crossed at its end (PassesLevelAfter), missed
+//            4  parity
+// Why so     Phases 1 and 2 decide only where phase 3 could not decide otherwise: their bands are wider than every
+//            tolerance of the rule, which are lengths (g_distZero) and shares of an edge (g_fZero). The share makes the
+//            band depend on the longest edge, which only the scan itself learns: it starts with a guess from three
+//            vertices, and where an edge was longer the scan is made again.
 // Order      Free: a point on any edge ends the test, and crossings only change the parity.
 // Kept odd   See TestChord for points within a hair of a vertex's level.
 
+#include <algorithm>
+#include <cmath>
+
 #include "frame/QnGeTolerance.h"
 #include "polylines/QnGeMLine2d.h"
+#include "polylines/detail/LevelScan.h"
 #include "polylines/detail/RayAndChord.h"
 #include "polylines/detail/SegmentView.h"
 #include "polylines/detail/VertexSearch.h"
 
 namespace {
 
+using qn_detail::BandSide;
 using qn_detail::ChordHit;
+using qn_detail::LevelScan;
+
+// Rounding of a coordinate difference, relative to the coordinates.
+constexpr double ROUNDING = 1e-15;
 
 enum class EdgeHit { NONE, ON, FLIP };
 
@@ -60,20 +75,101 @@ EdgeHit TestEdge(const QnGeMLine2d& line, long i, const QnGePoint& point) {
     return EdgeHit::NONE;
 }
 
-QnBitData HitTestClosed(const QnGeMLine2d& line, const QnGePoint& point) {
-    bool isOutside = true;
-    const long count = line.GetSegNum();
-    for (long i = 0; i < count; i++) {
-        const EdgeHit hit = TestEdge(line, i, point);
-        if (hit == EdgeHit::ON) {
-            return QnBitData(HIT_ON);
+// The test of one point against a closed line.
+class ClosedHitTest {
+public:
+    ClosedHitTest(const QnGeMLine2d& line, const QnGePoint& point)
+        : m_line(line), m_point(point), m_vertices(line.GetVertexArray().GetFirst()), m_count(line.GetSegNum()) {}
+
+    QnBitData Run() {
+        if (m_count == 0) {
+            return QnBitData(HIT_OUT);
         }
-        if (hit == EdgeHit::FLIP) {
-            isOutside = !isOutside;
+        if (!(g_fZero > 0.0)) {
+            return TestAllEdges();
+        }
+        double height = GuessHeight();
+        while (true) {
+            const double bandHalf = 2.0 * (g_distZero + 2.0 * g_fZero * height);
+            LevelScan scan(m_vertices, m_count, m_point.y, bandHalf);
+            const QnBitData hit = TestNearEdges(scan);
+            const double reach = 2.0 * std::max(scan.GetHighest() - m_point.y, m_point.y - scan.GetLowest());
+            if (!(reach > height) || hit.HasBit(HIT_ON)) {
+                return hit;
+            }
+            height = reach;
         }
     }
-    return QnBitData(isOutside ? HIT_OUT : HIT_IN);
-}
+
+private:
+    // No edge is taller than this, as far as three vertices tell.
+    double GuessHeight() const {
+        double sum = 0.0;
+        for (const long i : {0L, m_count / 3, 2 * m_count / 3}) {
+            sum += std::fabs(m_vertices[i].y - m_point.y);
+        }
+        return 4.0 * sum;
+    }
+
+    QnBitData TestAllEdges() const {
+        bool isOutside = true;
+        for (long i = 0; i < m_count; i++) {
+            const EdgeHit hit = TestEdge(m_line, i, m_point);
+            if (hit == EdgeHit::ON) {
+                return QnBitData(HIT_ON);
+            }
+            isOutside = isOutside != (hit == EdgeHit::FLIP);
+        }
+        return QnBitData(isOutside ? HIT_OUT : HIT_IN);
+    }
+
+    QnBitData TestNearEdges(LevelScan& scan) const {
+        bool isOutside = true;
+        BandSide side = scan.GetSide(0);
+        for (long i = 0; i < m_count; i++) {
+            scan.Note(i);
+            if (side != BandSide::INSIDE) {
+                i = scan.SkipRun(i + 1, side) - 1;
+            }
+            const BandSide nextSide = scan.GetSide(i + 1 == m_count ? 0 : i + 1);
+            const bool staysOut = side == nextSide && side != BandSide::INSIDE;  // only the closing edge comes here
+            const EdgeHit hit = staysOut ? EdgeHit::NONE : TestNearEdge(i, side, nextSide);
+            if (hit == EdgeHit::ON) {
+                return QnBitData(HIT_ON);
+            }
+            isOutside = isOutside != (hit == EdgeHit::FLIP);
+            side = nextSide;
+        }
+        return QnBitData(isOutside ? HIT_OUT : HIT_IN);
+    }
+
+    EdgeHit TestNearEdge(long i, BandSide side, BandSide nextSide) const {
+        const QnGePoint& a = m_vertices[i];
+        const QnGePoint& b = m_vertices[i + 1 == m_count ? 0 : i + 1];
+        const double width = std::fabs(b.x - a.x);
+        const double height = std::fabs(b.y - a.y);
+        const bool isShort = width <= g_fZero && height <= g_fZero;
+        if (!isShort) {
+            // Nearly horizontal edges blow up the rounding of their coordinates, down to a rise of g_fZero.
+            const double spread = width + height + std::fabs(m_point.x - a.x) + std::fabs(m_point.y - a.y);
+            const double margin = 2.0 * (g_distZero + g_fZero + 4.0 * (g_fZero + ROUNDING / g_fZero) * spread);
+            if (std::max(a.x, b.x) < m_point.x - margin) {
+                return EdgeHit::NONE;
+            }
+            const bool passesBand = side != BandSide::INSIDE && nextSide != BandSide::INSIDE;
+            const bool isSteep = height > 4.0 * g_fZero * (width + height) && height > 2.0 * g_fZero;
+            if (passesBand && isSteep && std::min(a.x, b.x) > m_point.x + margin) {
+                return EdgeHit::FLIP;
+            }
+        }
+        return TestEdge(m_line, i, m_point);
+    }
+
+    const QnGeMLine2d& m_line;
+    const QnGePoint& m_point;
+    const QnGePoint* m_vertices;
+    long m_count;
+};
 
 QnBitData HitTestOpen(const QnGeMLine2d& line, const QnGePoint& point) {
     qn_detail::SegmentView view;
@@ -89,7 +185,7 @@ QnBitData HitTestOpen(const QnGeMLine2d& line, const QnGePoint& point) {
 }  // namespace
 
 QnBitData QnGeMLine2d::HitTest(const QnGePoint& point) const {
-    return IsClosed() ? HitTestClosed(*this, point) : HitTestOpen(*this, point);
+    return IsClosed() ? ClosedHitTest(*this, point).Run() : HitTestOpen(*this, point);
 }
 
 QnBitData QnGeMLine2d::SubHitTest(const QnGePoint& point, int& sub) const {

@@ -17,11 +17,17 @@ enum class BandSide { BELOW, INSIDE, ABOVE };
 /// A pass over the vertices of an outline that finds the edges that come near a level.
 ///
 /// An edge whose two ends lie beyond the band on the same side is passed over, several at a time. The scan notes the
-/// lowest and the highest vertex that it sees.
+/// lowest and the highest vertex that it sees, the level included.
 class LevelScan {
 public:
-    LevelScan(const QnGePoint* vertices, long count, double bandLow, double bandHigh)
-        : m_vertices(vertices), m_count(count), m_low(bandLow), m_high(bandHigh) {}
+    /// The band reaches `half` to both sides of `level`.
+    LevelScan(const QnGePoint* vertices, long count, double level, double half)
+        : m_vertices(vertices),
+          m_count(count),
+          m_low(level - half),
+          m_high(level + half),
+          m_lowest(level),
+          m_highest(level) {}
 
     BandSide GetSide(long i) const {
         const double y = m_vertices[i].y;
@@ -50,8 +56,8 @@ private:
     long m_count;
     double m_low;
     double m_high;
-    double m_lowest = 0.0;
-    double m_highest = 0.0;
+    double m_lowest;
+    double m_highest;
 };
 
 #if defined(__SSE2__)
