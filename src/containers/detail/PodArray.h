@@ -21,8 +21,8 @@ public:
 
     long GetLength() const { return m_length; }
     bool IsEmpty() const { return m_length == 0; }
-    T& operator[](long i) { return m_block[i]; }
-    const T& operator[](long i) const { return m_block[i]; }
+    T& operator[](long i) { return m_block.get()[i]; }
+    const T& operator[](long i) const { return m_block.get()[i]; }
     T* begin() { return m_block.get(); }
     T* end() { return m_block.get() + m_length; }
     const T* begin() const { return m_block.get(); }
