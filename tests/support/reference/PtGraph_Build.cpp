@@ -16,15 +16,14 @@
 // Phases     1  MakeVertices  one node per vertex of each outline, linked both ways, parameter 0.
 //            2  CrossEdges    each edge of A with each edge of B, A outermost, both in vertex order.
 //            3  Classify      what a pair that meets says about entering and leaving, for A and for B.
-//            4  Insert        the node of the meeting into the chain of A, then into that of B, by its parameter. A
-//            node
-//                             that stands there already is replaced: the new one takes its flags, links and entries.
+//            4  Insert        the node of the meeting into the chain of A, then into that of B, by its parameter.
+//                             A node that stands there already is replaced: the new one takes its flags, links and
+//                             entries.
 //            5  CleanUp       each node gets exactly one entry: B's vertices, then A's, then the free crossings.
 // Invariant  After each phase n->nextA->prevA == n and n->nextB->prevB == n for every node in use, and the parameters
 //            rise along each edge.
 // Why so     A corner is met by up to four pairs of edges. Each of them looks at its own pair only and adds its flags
-// to
-//            the node, so no rule has to know the whole corner. Where the meeting is at the end of an edge of B, the
+//            to the node, so no rule has to know the whole corner. Where the meeting is at the end of an edge of B, the
 //            flags of A are left to B's next edge, which has the same place as its start, and the other way round.
 //
 //            Which of the points of such pairs becomes the node's point has no deeper reason: the last one stays.
@@ -34,8 +33,7 @@
 //            they lead on to the node that replaced them. PtNode owns nothing. The polygons are read only.
 // Cost       All pairs of edges. An insertion is linear in the crossings of its edge.
 // Kept odd   Parallel edges never meet, so coincident ones meet only through the edges at their ends. Clockwise
-// outlines
-//            are not turned: they act as the outlines of their complement.
+//            outlines are not turned: they act as the outlines of their complement.
 // See        docs/algorithms/polygon-booleans.md
 #include "containers/QnDynArray.h"
 #include "frame/QnGeTolerance.h"
