@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <type_traits>
+#include <utility>
 
 #include "containers/QnArray.h"
 #include "containers/QnDynArrayBase.h"
@@ -81,7 +83,7 @@ protected:
     long m_nAllocUnit = 10;
 
 private:
-    long m_nCapacity = 0;  ///< elements in the block, at least m_nSpace; those beyond m_nSpace mean nothing
+    long m_nCapacity = 0;  ///< elements in the block, at least m_nSpace; those beyond m_nSpace were never in use
 
     static T* NewBlock(long n) { return n > 0 ? new T[static_cast<std::size_t>(n)]() : nullptr; }
     void Grow(long space);
@@ -145,15 +147,25 @@ void QnDynArray<T>::Grow(long space) {
     if (space > m_nCapacity) {
         const long doubled = 2 * m_nCapacity;
         Relocate(space > doubled ? space : doubled, m_nLength);
+        m_nSpace = m_nLength;  // the new block holds nothing used behind the length
     }
-    std::fill(m_pData + m_nLength, m_pData + space, T());
+    // Elements that construct themselves are default ones until the space reaches them.
+    const bool isRawBehindSpace = std::is_trivially_default_constructible_v<T>;
+    std::fill(m_pData + m_nLength, m_pData + (isRawBehindSpace ? space : m_nSpace), T());
     m_nSpace = space;
 }
 
-/// Moves the first `kept` elements into a block of `capacity` elements. Those behind are not set yet.
+/// Moves the first `kept` elements into a block of `capacity` elements. Those behind are default ones, or not set where
+/// `T` has no constructor to run.
 template <class T>
 void QnDynArray<T>::Relocate(long capacity, long kept) {
-    T* block = new T[static_cast<std::size_t>(capacity)];
+    const auto size = static_cast<std::size_t>(capacity);
+    T* block = nullptr;
+    if constexpr (std::is_trivially_default_constructible_v<T>) {
+        block = new T[size];
+    } else {
+        block = new T[size]();
+    }
     std::move(m_pData, m_pData + kept, block);
     delete[] m_pData;
     m_pData = block;

@@ -123,7 +123,7 @@ void QnXList<T>::DelCur() {
     if (this->IsOut()) {
         return;
     }
-    if ((m_nLength - 1) % m_nGroup == 0) {
+    if (m_nLength - 1 == m_index.GetMaxIndex() * m_nGroup) {  // the last group is one element
         m_index.DelTail();
     }
     for (m_index.MoveTo(FirstEntryFrom(m_nCur)); !m_index.IsOut(); m_index.MoveToNext()) {
@@ -135,10 +135,12 @@ void QnXList<T>::DelCur() {
 template <class T>
 void QnXList<T>::InsertAfterCur(const T& value) {
     Base::InsertAfterCur(value);
-    for (m_index.MoveTo(FirstEntryFrom(m_nCur)); !m_index.IsOut(); m_index.MoveToNext()) {
-        m_index.SetCurData(m_index.GetCurData()->previous);
+    if (this->m_pCurrent != this->m_pTail) {
+        for (m_index.MoveTo(FirstEntryFrom(m_nCur)); !m_index.IsOut(); m_index.MoveToNext()) {
+            m_index.SetCurData(m_index.GetCurData()->previous);
+        }
     }
-    if ((m_nLength - 1) % m_nGroup == 0) {
+    if (m_nLength - 1 == m_index.GetLength() * m_nGroup) {  // the groups were full
         m_index.Append(this->m_pTail);
     }
 }
