@@ -40,7 +40,7 @@ public:
             SetSpace(m_space < 8 ? 16 : 2 * m_space);
             m_block[m_length] = copy;
         } else {
-            m_block[m_length] = record;
+            m_block.get()[m_length] = record;
         }
         return m_length++;
     }
