@@ -38,7 +38,7 @@ public:
         if (m_length == m_space) {
             const T copy = record;  // it may stand in the block that goes
             SetSpace(m_space < 8 ? 16 : 2 * m_space);
-            m_block[m_length] = copy;
+            m_block.get()[m_length] = copy;
         } else {
             m_block.get()[m_length] = record;
         }
