@@ -12,7 +12,7 @@
 //                 outside it.
 //
 // Phases     1  FindRings    builds and walks the graph.
-//            2  JoinRings, MakePolygon   turn rings into objects.
+//            2  JoinRings, TakePolygon   turn rings into objects.
 //            3  WalkVertices settles containment where there is no ring.
 // Why so     A vertex on the other outline decides nothing, hence the walk goes on to the first that is clearly in or
 //            out. If all of them are on it, the polygon is taken to be covered by the other one.
@@ -32,7 +32,7 @@
 namespace {
 
 using qn_detail::CrossingGraph;
-using RingList = QnPDList<QnGeMLine2d>;
+using RingList = QnPDList<QnGePolygon2d>;
 
 constexpr long MIN_RING_VERTICES = 3;
 
@@ -43,18 +43,19 @@ void FindRings(const QnGeMLine2d& first, const QnGeMLine2d& second, CrossingGrap
     }
 }
 
-/// The polygon of a ring; null if the ring encloses nothing.
-std::unique_ptr<QnGePolygon2d> MakePolygon(const QnGeMLine2d& ring) {
-    if (ring.GetVertexNum() < MIN_RING_VERTICES) {
+/// Takes the first ring; null if it encloses nothing.
+std::unique_ptr<QnGePolygon2d> TakePolygon(RingList& rings) {
+    std::unique_ptr<QnGePolygon2d> ring(rings.TakeOffHead());
+    if (ring->Outline().GetVertexNum() < MIN_RING_VERTICES) {
         return nullptr;
     }
-    return std::make_unique<QnGePolygon2d>(ring, false);
+    return ring;
 }
 
 /// Appends the polygon of each ring. A ring that encloses nothing leaves a null entry.
-void AppendPolygons(const RingList& rings, QnGeObjList& out) {
-    for (QnGeMLine2d* const* ring = rings.GetFirst(); ring != nullptr; ring = rings.GetNext(ring)) {
-        out.Append(MakePolygon(**ring).release());
+void AppendPolygons(RingList& rings, QnGeObjList& out) {
+    while (!rings.IsEmpty()) {
+        out.Append(TakePolygon(rings).release());
     }
 }
 
@@ -64,13 +65,13 @@ std::unique_ptr<QnGeRegion2d> JoinRings(RingList& rings) {
     auto region = std::make_unique<QnGeGeneralPolygon2d>();
     bool hasOutline = false;
     while (!rings.IsEmpty()) {
-        std::unique_ptr<QnGeMLine2d> ring(rings.TakeOffHead());
-        if (ring->IsClockwise()) {
-            region->AppendHole(ring.release(), false);
+        const std::unique_ptr<QnGePolygon2d> ring(rings.TakeOffHead());
+        if (ring->Outline().IsClockwise()) {
+            region->AppendHole(new QnGeMLine2d(ring->Outline()), false);
         } else if (hasOutline) {
             return nullptr;
         } else {
-            region->Outline() = *ring;
+            region->Outline() = ring->Outline();
             hasOutline = true;
         }
     }
@@ -164,7 +165,7 @@ QnGeRegion2d* QnGePolygon2d::Union(const QnGePolygon2d& other) const {
     RingList rings;
     FindRings(m_outline, other.m_outline, CrossingGraph::TraceKind::UNION, rings);
     if (rings.GetLength() == 1) {
-        return MakePolygon(*rings.GetAt(0)).release();
+        return TakePolygon(rings).release();
     }
     if (rings.GetLength() > 1) {
         return JoinRings(rings).release();
@@ -213,8 +214,8 @@ void QnGePolygon2d::SubtractBy(const QnGePolygon2d& other, QnGeObjList& out) con
     FindRings(m_outline, outside, CrossingGraph::TraceKind::INTER, rings);
 
     if (rings.GetLength() == 2) {
-        std::unique_ptr<QnGePolygon2d> first = MakePolygon(*rings.GetAt(0));
-        std::unique_ptr<QnGePolygon2d> second = MakePolygon(*rings.GetAt(1));
+        std::unique_ptr<QnGePolygon2d> first = TakePolygon(rings);
+        std::unique_ptr<QnGePolygon2d> second = TakePolygon(rings);
         if (IsClockwiseRing(first.get()) || IsClockwiseRing(second.get())) {
             // The two only touch, `other` from inside: the walks ran round one and round the other.
             AppendWithHole(m_outline, outside, out);

@@ -10,6 +10,7 @@
 #include <sstream>
 
 #include "frame/QnPushVar.h"
+#include "regions/QnGePolygon2d.h"
 #include "support/PolygonPairs.h"
 #include "support/reference/PtGraph.h"
 
@@ -37,13 +38,13 @@ bool SameBits(double a, double b) {
 }
 
 /// "" if the two lists hold the same rings, vertex by vertex.
-std::string CompareRings(const QnPDList<QnGeMLine2d>& expected, const QnPDList<QnGeMLine2d>& found) {
+std::string CompareRings(const QnPDList<QnGeMLine2d>& expected, const QnPDList<QnGePolygon2d>& found) {
     if (expected.GetLength() != found.GetLength()) {
         return "ring counts " + std::to_string(expected.GetLength()) + " and " + std::to_string(found.GetLength());
     }
     for (long k = 0; k < expected.GetLength(); ++k) {
         const QnGeMLine2d& e = *expected.GetAt(k);
-        const QnGeMLine2d& f = *found.GetAt(k);
+        const QnGeMLine2d& f = found.GetAt(k)->Outline();
         if (e.GetVertexNum() != f.GetVertexNum() || !f.IsClosed()) {
             return "ring " + std::to_string(k) + " has " + std::to_string(e.GetVertexNum()) + " and " +
                    std::to_string(f.GetVertexNum()) + " vertices";
@@ -112,7 +113,7 @@ std::string Compare(const Ring& a, const Ring& b, bool closed) {
             return "after building: " + difference;
         }
         QnPDList<QnGeMLine2d> plainRings;
-        QnPDList<QnGeMLine2d> fastRings;
+        QnPDList<QnGePolygon2d> fastRings;
         plain.Trace(kind == 0 ? PtGraph::TraceKind::UNION : PtGraph::TraceKind::INTER, plainRings);
         fast.Trace(kind == 0 ? CrossingGraph::TraceKind::UNION : CrossingGraph::TraceKind::INTER, fastRings);
         difference = CompareRings(plainRings, fastRings);

@@ -45,10 +45,19 @@ CrossingGraph::CrossingGraph(const QnGeMLine2d& first, const QnGeMLine2d& second
 bool CrossingGraph::Build() {
     PodArray<EdgeCrossing> crossings;
     CrossingSearch(GetIndex(0), GetIndex(1)).Run(crossings);
+    ReserveNodes(crossings.GetLength());
     for (const EdgeCrossing& crossing : crossings) {
         Enter(crossing);
     }
     return !crossings.IsEmpty();
+}
+
+// A crossing brings its own node and makes nodes of the ends of its two edges at most.
+void CrossingGraph::ReserveNodes(long crossingNum) {
+    constexpr long EDGE_ENDS = 4;
+    const long vertexNum = GetIndex(0).GetVertexNum() + GetIndex(1).GetVertexNum();
+    m_nodes.SetSpace(crossingNum + std::min(EDGE_ENDS * crossingNum, vertexNum));
+    m_free.SetSpace(crossingNum);
 }
 
 void CrossingGraph::Enter(const EdgeCrossing& crossing) {

@@ -12,6 +12,7 @@
 #include "regions/detail/PtFlag.h"
 
 class QnGeMLine2d;
+class QnGePolygon2d;
 
 namespace qn_detail {
 
@@ -33,9 +34,9 @@ public:
     /// Finds and links the crossings; whether there was one.
     bool Build();
 
-    /// Appends the rings of the wanted result in the order of the nodes where they start, each a closed line; a ring
-    /// may have fewer than 3 vertices.
-    void Trace(TraceKind kind, QnPDList<QnGeMLine2d>& rings);
+    /// Appends the rings of the wanted result in the order of the nodes where they start, each a polygon that keeps the
+    /// direction of the walk; a ring may have fewer than 3 vertices.
+    void Trace(TraceKind kind, QnPDList<QnGePolygon2d>& rings);
 
     /// The index over the first (0) or the second (1) outline.
     OutlineIndex& GetIndex(int side) { return m_outlines[side]->index; }
@@ -78,6 +79,7 @@ private:
         PodArray<std::int32_t> nodeOf;  ///< node of each vertex, NONE for a plain one
     };
 
+    void ReserveNodes(long crossingNum);
     void Enter(const EdgeCrossing& crossing);
     void Insert(std::int32_t node, std::int32_t start, int side);
     void LinkBefore(std::int32_t node, std::int32_t at, int side);
@@ -96,10 +98,10 @@ private:
     }
 
     struct Walk;
-    void TraceFrom(std::int32_t start, int side, Walk& walk, QnPDList<QnGeMLine2d>& rings);
+    void TraceFrom(std::int32_t start, int side, Walk& walk, QnPDList<QnGePolygon2d>& rings);
     bool FollowRing(std::int32_t start, int side, Walk& walk);
     Link PassRun(long vertex, int side, Walk& walk) const;
-    QnGeMLine2d* MakeRing(const Walk& walk) const;
+    QnGePolygon2d* MakeRing(const Walk& walk) const;
 
     std::unique_ptr<Outline> m_outlines[2];
     PodArray<Node> m_nodes;

@@ -6,8 +6,8 @@
 // other polygon, and changes over to the other outline there. It ends where it began: the nodes it met are the ring.
 //
 // Phases     For each node on both outlines, in the order of the graph:
-//            1  FollowRing  the pieces of the ring, single nodes and runs of plain vertices, and how many points they
-//            are 2  MakeRing    a line of exactly that many vertices, filled piece by piece
+//            1  FollowRing  the pieces of the ring: single nodes and runs of plain vertices
+//            2  MakeRing    a polygon of exactly their number of points, filled piece by piece
 // Order      Walks start in the order of GetOrder, from the first outline before the second, so that decides the order
 //            of the rings and the vertex where each begins.
 // Why so     A walk that meets one of its own nodes other than its start goes round for ever and is dropped. Plain
@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "polylines/QnGeMLine2d.h"
+#include "regions/QnGePolygon2d.h"
 #include "regions/detail/CrossingGraph.h"
 
 namespace qn_detail {
@@ -44,7 +45,7 @@ struct CrossingGraph::Walk {
     }
 };
 
-void CrossingGraph::Trace(TraceKind kind, QnPDList<QnGeMLine2d>& rings) {
+void CrossingGraph::Trace(TraceKind kind, QnPDList<QnGePolygon2d>& rings) {
     const bool isUnion = kind == TraceKind::UNION;
     Walk walk;
     walk.changesOver[0] = isUnion ? PT_A_ENTERS : PT_A_LEAVES;
@@ -65,7 +66,7 @@ void CrossingGraph::Trace(TraceKind kind, QnPDList<QnGeMLine2d>& rings) {
     }
 }
 
-void CrossingGraph::TraceFrom(std::int32_t start, int side, Walk& walk, QnPDList<QnGeMLine2d>& rings) {
+void CrossingGraph::TraceFrom(std::int32_t start, int side, Walk& walk, QnPDList<QnGePolygon2d>& rings) {
     ++walk.number;
     walk.pointNum = 0;
     walk.pieces.Clear();
@@ -117,9 +118,9 @@ CrossingGraph::Link CrossingGraph::PassRun(long vertex, int side, Walk& walk) co
     return m_outlines[side]->isClosed ? GetLinkTo(0, side) : NO_LINK;
 }
 
-QnGeMLine2d* CrossingGraph::MakeRing(const Walk& walk) const {
-    auto* const ring = new QnGeMLine2d(walk.pointNum, true);
-    QnGePoint* out = &(*ring)[0];
+QnGePolygon2d* CrossingGraph::MakeRing(const Walk& walk) const {
+    auto* const ring = new QnGePolygon2d(walk.pointNum);
+    QnGePoint* out = &ring->Outline()[0];
     for (const Walk::Piece& piece : walk.pieces) {
         if (piece.start >= 0) {
             const double* const point = m_nodes[piece.start].point;
