@@ -35,9 +35,8 @@ public:
     template <class... Args>
     void Note(const char* operation, const Args&... args) {
         m_text << operation << '(';
-        const char* separator = "";
-        ((m_text << separator << args, separator = ", "), ...);
-        m_text << ")\n";
+        ((m_text << ' ' << args), ...);
+        m_text << " )\n";
     }
     std::string Text() const { return m_text.str(); }
 
