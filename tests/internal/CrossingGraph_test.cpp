@@ -66,15 +66,14 @@ std::string CompareNodes(const PtGraph& expected, const CrossingGraph& found) {
     qn_detail::PodArray<std::int32_t> order;
     found.GetOrder(order);
     long at = 0;
-    const auto nextShared = [&]() -> const CrossingGraph::Node* {
+    const auto nextShared = [&]() -> std::int32_t {
         for (; at < order.GetLength(); ++at) {
             const CrossingGraph::Node& node = found.GetNodes()[order[at]];
             if (node.next[0] != CrossingGraph::NO_LINK && node.next[1] != CrossingGraph::NO_LINK) {
-                ++at;
-                return &node;
+                return order[at++];
             }
         }
-        return nullptr;
+        return CrossingGraph::NONE;
     };
     long count = 0;
     for (PtNode* const* entry = expected.GetFirst(); entry != nullptr; entry = expected.GetNext(entry)) {
@@ -82,17 +81,19 @@ std::string CompareNodes(const PtGraph& expected, const CrossingGraph& found) {
         if (e.nextA == nullptr || e.nextB == nullptr) {
             continue;
         }
-        const CrossingGraph::Node* const f = nextShared();
-        if (f == nullptr) {
+        const std::int32_t number = nextShared();
+        if (number == CrossingGraph::NONE) {
             return "node " + std::to_string(count) + " is missing";
         }
-        const bool samePoint = SameBits(e.x, f->point[0]) && SameBits(e.y, f->point[1]) && SameBits(e.z, f->point[2]);
-        if (!samePoint || !SameBits(e.paA, f->pa[0]) || !SameBits(e.paB, f->pa[1]) || e.GetBits() != f->flags) {
+        const CrossingGraph::Node& f = found.GetNodes()[number];
+        const CrossingGraph::Place& place = found.GetPlaces()[number];
+        const bool samePlace = SameBits(e.x, place.x) && SameBits(e.y, place.y) && SameBits(e.z, place.z);
+        if (!samePlace || !SameBits(e.paA, f.pa[0]) || !SameBits(e.paB, f.pa[1]) || e.GetBits() != f.flags) {
             return "node " + std::to_string(count) + " differs";
         }
         ++count;
     }
-    return nextShared() == nullptr ? "" : "a node too many";
+    return nextShared() == CrossingGraph::NONE ? "" : "a node too many";
 }
 
 std::string Compare(const Ring& a, const Ring& b, bool closed) {

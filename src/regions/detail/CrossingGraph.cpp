@@ -31,6 +31,21 @@
 
 namespace qn_detail {
 
+namespace {
+
+using Graph = CrossingGraph;
+
+constexpr Graph::Node UNLINKED = {{0.0, 0.0},
+                                  {Graph::NO_LINK, Graph::NO_LINK},
+                                  {Graph::NO_LINK, Graph::NO_LINK},
+                                  {Graph::NONE, Graph::NONE},
+                                  Graph::NONE,
+                                  Graph::NONE,
+                                  0,
+                                  0};
+
+}  // namespace
+
 CrossingGraph::Outline::Outline(const QnGeMLine2d& line, const QnGePoint& centre)
     : index(line, centre), isClosed(line.IsClosed()), nodeOf(line.GetVertexNum()) {
     std::fill(nodeOf.begin(), nodeOf.end(), NONE);
@@ -56,33 +71,35 @@ bool CrossingGraph::Build() {
 void CrossingGraph::ReserveNodes(long crossingNum) {
     constexpr long EDGE_ENDS = 4;
     const long vertexNum = GetIndex(0).GetVertexNum() + GetIndex(1).GetVertexNum();
-    m_nodes.SetSpace(crossingNum + std::min(EDGE_ENDS * crossingNum, vertexNum));
+    const long nodeNum = crossingNum + std::min(EDGE_ENDS * crossingNum, vertexNum);
+    m_nodes.SetSpace(nodeNum);
+    m_places.SetSpace(nodeNum);
     m_free.SetSpace(crossingNum);
+}
+
+std::int32_t CrossingGraph::AddNode(const Node& node, const Place& place) {
+    m_places.Append(place);
+    return static_cast<std::int32_t>(m_nodes.Append(node));
 }
 
 void CrossingGraph::Enter(const EdgeCrossing& crossing) {
     const QnGePoint& start = GetIndex(0).GetVertex(crossing.edge[0]);
     const QnGePoint& end = GetIndex(0).GetEdgeEnd(crossing.edge[0]);
     const double paA = crossing.pa[0];
-    Node fresh = {
-        {start.x + paA * (end.x - start.x), start.y + paA * (end.y - start.y), start.z + paA * (end.z - start.z)},
-        {crossing.pa[0], crossing.pa[1]},
-        {NO_LINK, NO_LINK},
-        {NO_LINK, NO_LINK},
-        {NONE, NONE},
-        NONE,
-        NONE,
-        0,
-        crossing.flags};
+    const Place place = {start.x + paA * (end.x - start.x), start.y + paA * (end.y - start.y),
+                         start.z + paA * (end.z - start.z)};
+    Node fresh = UNLINKED;
+    fresh.flags = crossing.flags;
     long vertex[2];
     for (int side = 0; side < 2; ++side) {
         vertex[side] = crossing.edge[side];
+        fresh.pa[side] = crossing.pa[side];
         if (IsZero(crossing.pa[side] - 1.0, g_fZero)) {
             vertex[side] = GetIndex(side).GetVertexAfter(vertex[side]);
             fresh.pa[side] = 0.0;
         }
     }
-    const auto node = static_cast<std::int32_t>(m_nodes.Append(fresh));
+    const std::int32_t node = AddNode(fresh, place);
     for (int side = 0; side < 2; ++side) {
         Insert(node, GetNodeOfVertex(vertex[side], side), side);
     }
@@ -210,15 +227,7 @@ std::int32_t CrossingGraph::GetNodeOfVertex(long vertex, int side) {
 
 std::int32_t CrossingGraph::MakeVertexNode(long vertex, int side) {
     const QnGePoint& point = GetIndex(side).GetVertex(vertex);
-    Node fresh = {{point.x, point.y, point.z},
-                  {0.0, 0.0},
-                  {NO_LINK, NO_LINK},
-                  {NO_LINK, NO_LINK},
-                  {NONE, NONE},
-                  NONE,
-                  NONE,
-                  0,
-                  0};
+    Node fresh = UNLINKED;
     fresh.vertex[side] = static_cast<std::int32_t>(vertex);
     const auto node = static_cast<std::int32_t>(m_nodes.GetLength());
     const bool isFirst = vertex == 0;
@@ -230,7 +239,7 @@ std::int32_t CrossingGraph::MakeVertexNode(long vertex, int side) {
     if (isClosed || !isFirst) {
         fresh.prev[side] = GetLinkTo(isFirst ? GetIndex(side).GetVertexNum() - 1 : vertex - 1, side);
     }
-    m_nodes.Append(fresh);
+    AddNode(fresh, {point.x, point.y, point.z});
     m_outlines[side]->nodeOf[vertex] = node;
     if (fresh.next[side] >= 0) {
         m_nodes[fresh.next[side]].prev[side] = node;
@@ -285,7 +294,7 @@ void CrossingGraph::GetOrder(PodArray<std::int32_t>& order) const {
 }
 
 long CrossingGraph::GetMemory() const {
-    long bytes = m_nodes.GetMemory() + m_free.GetMemory() + m_droppedVertex.GetMemory();
+    long bytes = m_nodes.GetMemory() + m_places.GetMemory() + m_free.GetMemory() + m_droppedVertex.GetMemory();
     for (const std::unique_ptr<Outline>& outline : m_outlines) {
         bytes += outline->index.GetMemory() + outline->nodeOf.GetMemory();
     }

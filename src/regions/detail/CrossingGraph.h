@@ -51,7 +51,6 @@ public:
     static constexpr Link NO_LINK = INT_MIN;
 
     struct Node {
-        double point[3];
         double pa[2];  ///< parameters on the edges of the first and the second outline, 0 for a vertex
         Link next[2];  ///< along the first and the second outline; NO_LINK if not on it
         Link prev[2];
@@ -63,7 +62,16 @@ public:
     };
     static constexpr std::int32_t NONE = -1;
 
+    struct Place {
+        double x;
+        double y;
+        double z;
+    };
+
     const PodArray<Node>& GetNodes() const { return m_nodes; }
+
+    /// Where each node lies. Apart from the nodes: linking and walking do not look at it.
+    const PodArray<Place>& GetPlaces() const { return m_places; }
 
     /// The nodes in the order in which walks start: those at vertices of the second outline, those at vertices of the
     /// first, free crossings as they were found. A node that is a vertex of both stands with the first outline's, and
@@ -80,6 +88,7 @@ private:
     };
 
     void ReserveNodes(long crossingNum);
+    std::int32_t AddNode(const Node& node, const Place& place);
     void Enter(const EdgeCrossing& crossing);
     void Insert(std::int32_t node, std::int32_t start, int side);
     void LinkBefore(std::int32_t node, std::int32_t at, int side);
@@ -105,6 +114,7 @@ private:
 
     std::unique_ptr<Outline> m_outlines[2];
     PodArray<Node> m_nodes;
+    PodArray<Place> m_places;
     PodArray<std::int32_t> m_free;           ///< free crossings, as found
     PodArray<std::int32_t> m_droppedVertex;  ///< vertices of the second outline whose node stands with the first's
 };

@@ -123,8 +123,8 @@ QnGePolygon2d* CrossingGraph::MakeRing(const Walk& walk) const {
     QnGePoint* out = &ring->Outline()[0];
     for (const Walk::Piece& piece : walk.pieces) {
         if (piece.start >= 0) {
-            const double* const point = m_nodes[piece.start].point;
-            *out++ = QnGePoint(point[0], point[1], point[2]);
+            const Place& place = m_places[piece.start];
+            *out++ = QnGePoint(place.x, place.y, place.z);
         } else {
             const QnGePoint* const from = &m_outlines[piece.side]->index.GetVertex(~piece.start);
             out = std::copy(from, from + piece.count, out);
