@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <set>
 #include <sstream>
 
 #include "frame/QnPushVar.h"
@@ -62,14 +63,16 @@ std::string CompareRings(const QnPDList<QnGeMLine2d>& expected, const QnPDList<Q
 
 /// "" if the nodes on both outlines are the same in the same order, with the same point, parameters and marks. Nodes on
 /// one outline only can start no walk and may be left plain.
-std::string CompareNodes(const PtGraph& expected, const CrossingGraph& found) {
+std::string CompareNodes(const PtGraph& expected, CrossingGraph& found) {
     qn_detail::PodArray<std::int32_t> order;
-    found.GetOrder(order);
+    found.GetStarts(order);
+    std::set<std::int32_t> seen;
     long at = 0;
     const auto nextShared = [&]() -> std::int32_t {
         for (; at < order.GetLength(); ++at) {
             const CrossingGraph::Node& node = found.GetNodes()[order[at]];
-            if (node.next[0] != CrossingGraph::NO_LINK && node.next[1] != CrossingGraph::NO_LINK) {
+            const bool isOnBoth = node.next[0] != CrossingGraph::NO_LINK && node.next[1] != CrossingGraph::NO_LINK;
+            if (isOnBoth && seen.insert(order[at]).second) {
                 return order[at++];
             }
         }

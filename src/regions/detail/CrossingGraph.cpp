@@ -187,6 +187,7 @@ void CrossingGraph::Replace(std::int32_t old, std::int32_t node) {
         if (vertex != NONE) {
             m_nodes[node].vertex[side] = vertex;
             m_outlines[side]->nodeOf[vertex] = node;
+            m_outlines[side]->metVertex.Append(vertex);
         }
     }
     Node& gone = m_nodes[old];
@@ -262,34 +263,23 @@ std::int32_t CrossingGraph::GetCurrent(std::int32_t node) const {
     return node;
 }
 
-void CrossingGraph::GetOrder(PodArray<std::int32_t>& order) const {
-    PodArray<unsigned char> isListed(m_nodes.GetLength());
-    std::fill(isListed.begin(), isListed.end(), static_cast<unsigned char>(0));
-    const auto list = [&](std::int32_t entry) {
-        const std::int32_t node = GetCurrent(entry);
-        if (isListed[node] == 0) {
-            isListed[node] = 1;
-            order.Append(node);
-        }
-    };
-    const PodArray<std::int32_t>& ofSecond = m_outlines[1]->nodeOf;
-    PodArray<unsigned char> isDropped(ofSecond.GetLength());
-    std::fill(isDropped.begin(), isDropped.end(), static_cast<unsigned char>(0));
-    for (const std::int32_t vertex : m_droppedVertex) {
-        isDropped[vertex] = 1;
-    }
-    for (long vertex = 0; vertex < ofSecond.GetLength(); ++vertex) {
-        if (ofSecond[vertex] != NONE && isDropped[vertex] == 0) {
-            list(ofSecond[vertex]);
-        }
-    }
-    for (const std::int32_t node : m_outlines[0]->nodeOf) {
-        if (node != NONE) {
-            list(node);
+void CrossingGraph::GetStarts(PodArray<std::int32_t>& starts) {
+    std::sort(m_droppedVertex.begin(), m_droppedVertex.end());
+    for (int side = 1; side >= 0; --side) {
+        PodArray<std::int32_t>& met = m_outlines[side]->metVertex;
+        std::sort(met.begin(), met.end());
+        std::int32_t last = NONE;
+        for (const std::int32_t vertex : met) {
+            const bool stands =
+                side == 0 || !std::binary_search(m_droppedVertex.begin(), m_droppedVertex.end(), vertex);
+            if (vertex != last && stands) {
+                starts.Append(GetCurrent(m_outlines[side]->nodeOf[vertex]));
+            }
+            last = vertex;
         }
     }
     for (const std::int32_t node : m_free) {
-        list(node);
+        starts.Append(GetCurrent(node));
     }
 }
 

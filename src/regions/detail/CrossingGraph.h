@@ -73,10 +73,10 @@ public:
     /// Where each node lies. Apart from the nodes: linking and walking do not look at it.
     const PodArray<Place>& GetPlaces() const { return m_places; }
 
-    /// The nodes in the order in which walks start: those at vertices of the second outline, those at vertices of the
-    /// first, free crossings as they were found. A node that is a vertex of both stands with the first outline's, and
-    /// one that is several vertices stands where it comes first.
-    void GetOrder(PodArray<std::int32_t>& order) const;
+    /// The nodes where walks may start, in order: those that took the place of vertices of the second outline, of the
+    /// first, free crossings as they were found. A node that is a vertex of both stands with the first outline's; one
+    /// that is several vertices of an outline is named for each, which starts no walk twice.
+    void GetStarts(PodArray<std::int32_t>& starts);
 
 private:
     struct Outline {
@@ -84,7 +84,8 @@ private:
 
         OutlineIndex index;
         bool isClosed;
-        PodArray<std::int32_t> nodeOf;  ///< node of each vertex, NONE for a plain one
+        PodArray<std::int32_t> nodeOf;     ///< node of each vertex, NONE for a plain one
+        PodArray<std::int32_t> metVertex;  ///< vertices whose place a crossing took, in any order and repeated
     };
 
     void ReserveNodes(long crossingNum);

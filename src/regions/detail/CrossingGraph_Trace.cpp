@@ -8,7 +8,7 @@
 // Phases     For each node on both outlines, in the order of the graph:
 //            1  FollowRing  the pieces of the ring: single nodes and runs of plain vertices
 //            2  MakeRing    a polygon of exactly their number of points, filled piece by piece
-// Order      Walks start in the order of GetOrder, from the first outline before the second, so that decides the order
+// Order      Walks start in the order of GetStarts, from the first outline before the second, so that decides the order
 //            of the rings and the vertex where each begins.
 // Why so     A walk that meets one of its own nodes other than its start goes round for ever and is dropped. Plain
 //            vertices need no such mark: the node before their run has it.
@@ -51,9 +51,9 @@ void CrossingGraph::Trace(TraceKind kind, QnPDList<QnGePolygon2d>& rings) {
     walk.changesOver[0] = isUnion ? PT_A_ENTERS : PT_A_LEAVES;
     walk.changesOver[1] = isUnion ? PT_B_ENTERS : PT_B_LEAVES;
 
-    PodArray<std::int32_t> order;
-    GetOrder(order);
-    for (const std::int32_t start : order) {
+    PodArray<std::int32_t> starts;
+    GetStarts(starts);
+    for (const std::int32_t start : starts) {
         if (m_nodes[start].next[0] == NO_LINK || m_nodes[start].next[1] == NO_LINK) {
             continue;
         }
