@@ -31,10 +31,6 @@ void ClearLanes(BoxLanes& lanes) {
     }
 }
 
-std::size_t Index(long i) {
-    return static_cast<std::size_t>(i);
-}
-
 }  // namespace
 
 OutlineIndex::OutlineIndex(const QnGeMLine2d& outline, const QnGePoint& centre)
@@ -44,9 +40,10 @@ OutlineIndex::OutlineIndex(const QnGeMLine2d& outline, const QnGePoint& centre)
       m_centreX(centre.x),
       m_centreY(centre.y) {
     const long vertexBlocks = (m_vertexNum + LANES - 1) / LANES;
-    m_edgeBoxes.reset(new BoxLanes[Index(GetBlockNum())]);
-    m_directions.reset(new EdgeDirection[Index(m_vertexNum)]);
-    m_made.reset(new unsigned char[Index(vertexBlocks)]());
+    m_edgeBoxes = PodArray<BoxLanes>(GetBlockNum());
+    m_directions = PodArray<EdgeDirection>(m_vertexNum);
+    m_made = PodArray<unsigned char>(vertexBlocks);
+    std::fill(m_made.begin(), m_made.end(), static_cast<unsigned char>(0));
     if (m_edgeNum > 0) {
         MakeUpperLevels();
     }
@@ -102,7 +99,7 @@ void OutlineIndex::MakeUpperLevels() {
 }
 
 void OutlineIndex::MakeEdgeBoxes(long block) {
-    BoxLanes& lanes = m_edgeBoxes[Index(block)];
+    BoxLanes& lanes = m_edgeBoxes[block];
     const long first = block * LANES;
     const long count = std::min<long>(LANES, m_edgeNum - first);
     if (count < LANES) {
@@ -121,7 +118,7 @@ void OutlineIndex::MakeEdgeBoxes(long block) {
         x = nextX;
         y = nextY;
     }
-    m_made[Index(block)] |= HAS_BOXES;
+    m_made[block] |= HAS_BOXES;
 }
 
 void OutlineIndex::MakeDirections(long block) {
@@ -131,15 +128,13 @@ void OutlineIndex::MakeDirections(long block) {
         QnGeVector2d vector(m_vertices[i], GetEdgeEnd(i));
         const double length = vector.Length();
         vector.Normalize();
-        m_directions[Index(i)] = {vector.x, vector.y, length};
+        m_directions[i] = {vector.x, vector.y, length};
     }
-    m_made[Index(block)] |= HAS_DIRECTIONS;
+    m_made[block] |= HAS_DIRECTIONS;
 }
 
 long OutlineIndex::GetMemory() const {
-    const std::size_t blocks = Index(GetBlockNum());
-    return static_cast<long>(blocks * (sizeof(BoxLanes) + 1) + Index(m_vertexNum) * sizeof(EdgeDirection) +
-                             Index(m_upper.GetLength()) * sizeof(BoxLanes));
+    return m_upper.GetMemory() + m_edgeBoxes.GetMemory() + m_directions.GetMemory() + m_made.GetMemory();
 }
 
 }  // namespace qn_detail

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <memory>
-
 #include "containers/detail/PodArray.h"
 #include "polylines/detail/BoxLanes.h"
 #include "values/QnGePoint.h"
@@ -90,24 +88,24 @@ private:
     int m_levelNum = 0;
     long m_levelStart[MAX_LEVELS] = {};
     PodArray<BoxLanes> m_upper;
-    std::unique_ptr<BoxLanes[]> m_edgeBoxes;
-    std::unique_ptr<EdgeDirection[]> m_directions;
-    std::unique_ptr<unsigned char[]> m_made;  ///< HAS_... of each block
+    PodArray<BoxLanes> m_edgeBoxes;
+    PodArray<EdgeDirection> m_directions;
+    PodArray<unsigned char> m_made;  ///< HAS_... of each block
 };
 
 inline const BoxLanes& OutlineIndex::GetEdgeBoxes(long block) {
-    if ((m_made[static_cast<std::size_t>(block)] & HAS_BOXES) == 0) {
+    if ((m_made[block] & HAS_BOXES) == 0) {
         MakeEdgeBoxes(block);
     }
-    return m_edgeBoxes[static_cast<std::size_t>(block)];
+    return m_edgeBoxes[block];
 }
 
 inline const EdgeDirection& OutlineIndex::GetDirection(long vertex) {
     const long block = vertex / BoxLanes::COUNT;
-    if ((m_made[static_cast<std::size_t>(block)] & HAS_DIRECTIONS) == 0) {
+    if ((m_made[block] & HAS_DIRECTIONS) == 0) {
         MakeDirections(block);
     }
-    return m_directions[static_cast<std::size_t>(vertex)];
+    return m_directions[vertex];
 }
 
 }  // namespace qn_detail
