@@ -7,7 +7,7 @@
 
 #include "base/QnBaseApi.h"
 #include "containers/QnIsEqual.h"
-#include "containers/detail/RankSort.h"
+#include "containers/impl/RankSort.h"
 
 template <class T>
 class QnDynArrayBase;

@@ -8,7 +8,7 @@
 
 #include "containers/QnArray.h"
 #include "containers/QnDynArrayBase.h"
-#include "containers/detail/RankSort.h"
+#include "containers/impl/RankSort.h"
 
 /// A growing array: one block, elements side by side.
 ///

@@ -176,4 +176,4 @@ protected:
     long EnQueneMatches(const T& value, Hits& hits, long first, long last) const;
 };
 
-#include "containers/detail/QnDynArrayBase_impl.h"  // the bodies
+#include "containers/impl/QnDynArrayBase_impl.h"  // the bodies

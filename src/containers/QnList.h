@@ -3,7 +3,7 @@
 
 #include "containers/QnArray.h"
 #include "containers/QnDynArrayBase.h"
-#include "containers/detail/Ordering.h"
+#include "containers/impl/Ordering.h"
 
 /// A list node. The element comes first: its address, which GetFirst and its like hand out, is that of the node.
 template <class T>
@@ -147,4 +147,4 @@ protected:
     void EndOfSort();
 };
 
-#include "containers/detail/QnList_impl.h"  // the bodies
+#include "containers/impl/QnList_impl.h"  // the bodies

@@ -99,4 +99,4 @@ protected:
     long EnQueneDataMatches(const T& value, Hits& hits, long first, long last) const;
 };
 
-#include "containers/detail/QnOwnedSequence_impl.h"  // the bodies
+#include "containers/impl/QnOwnedSequence_impl.h"  // the bodies

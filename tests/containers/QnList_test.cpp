@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "containers/GroupedList.h"
@@ -24,6 +25,11 @@ Ints Items(const QnList<int>& list) {
         items.push_back(*p);
     }
     return items;
+}
+
+/// Not transitive: of three values, neighbours may be equal and the outer two not.
+int TolerantCompare(const double& a, const double& b) {
+    return a - b > 1e-6 ? 1 : (b - a > 1e-6 ? -1 : 0);
 }
 
 void Fill(QnList<int>& list, const Ints& values) {
@@ -458,6 +464,26 @@ TEST(QnList, ElementsAreFreedOnce) {
         list.Move(0, 7);
         EXPECT_EQ(list.FindDel(list.GetAt(0)), 7);
         EXPECT_EQ(scope.Count(), list.GetLength() + other.GetLength() + 2) << "one default object per sentinel";
+    }
+}
+
+TEST(QnList, SortInsertsEachElementBeforeTheFirstThatMustFollow) {
+    RandomSource random(BaseSeed());
+    for (int round = 0; round < 500; ++round) {
+        QnList<double> list;
+        std::vector<double> expected;
+        const long n = random.Long(0, 30);
+        for (long i = 0; i < n; ++i) {
+            const double value = random.Double(0.0, 1e-5);
+            list.Append(value);
+            const auto place = std::find_if(expected.begin(), expected.end(),
+                                            [value](double other) { return TolerantCompare(other, value) > 0; });
+            expected.insert(place, value);
+        }
+        list.Sort(&TolerantCompare);
+        for (long i = 0; i < n; ++i) {
+            ASSERT_EQ(list.GetAt(i), expected[static_cast<std::size_t>(i)]) << "round " << round;
+        }
     }
 }
 

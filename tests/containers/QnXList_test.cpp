@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <string>
 #include <vector>
 
 #include "containers/QnDList.h"
@@ -30,10 +32,76 @@ void FillUpwards(QnXList<int>& list, int count) {
     }
 }
 
+/// Lets the test see the index itself.
+class OpenXList : public QnXList<int> {
+public:
+    explicit OpenXList(long groupSize) : QnXList<int>(0, groupSize, 10) {}
+
+    long IndexEntries() const { return m_index.GetLength(); }
+    /// "" or the first entry that is not the node at its multiple of the group size.
+    std::string CheckIndex() const {
+        if (IndexEntries() != (GetLength() + m_nGroup - 1) / m_nGroup) {
+            return "the index has " + std::to_string(IndexEntries()) + " entries";
+        }
+        long position = 0;
+        for (const int* p = GetFirst(); p != nullptr; p = GetNext(p), ++position) {
+            const long entry = position / m_nGroup;
+            if (position % m_nGroup == 0 && std::addressof(m_index.GetAt(entry)->data) != p) {
+                return "entry " + std::to_string(entry) + " is not at position " + std::to_string(position);
+            }
+        }
+        return "";
+    }
+};
+
 constexpr long GROUP_SIZES[] = {1, 2, 3, 4, 25};
 constexpr long INDEX_UNIT = 10;
 
 }  // namespace
+
+TEST(QnXList, NineElementsInGroupsOfFourHaveThreeIndexEntries) {
+    OpenXList list(4);
+    FillUpwards(list, 9);
+    EXPECT_EQ(list.IndexEntries(), 3);
+    list.DelHead();
+    EXPECT_EQ(list.IndexEntries(), 2);
+    EXPECT_EQ(list.CheckIndex(), "");
+    list.DelHead();
+    EXPECT_EQ(list.CheckIndex(), "");
+    list.Reset();
+    EXPECT_EQ(list.IndexEntries(), 0);
+}
+
+TEST(QnXList, EveryIndexEntryStandsAtItsMultipleOfTheGroupSize) {
+    for (const long group : GROUP_SIZES) {
+        RandomSource random(BaseSeed());
+        OpenXList list(group);
+        OpenXList other(3);
+        for (int step = 0; step < 4000; ++step) {
+            const long i = random.Long(0, list.GetLength());
+            const int what = random.Int(0, 9);
+            if (what < 4) {
+                list.Insert(i, step);
+            } else if (what < 6) {
+                list.Del(i);
+            } else if (what == 6) {
+                list.SplitAt(i, other);
+            } else if (what == 7) {
+                list.Conbine(other, random.Long(0, other.GetLength()));
+            } else if (what == 8 && random.OneIn(5)) {
+                list.Sort(random.Coin());
+            } else if (what == 9 && list.GetLength() > 0) {
+                list.ReverseList();
+                list.Rotate(random.Long(0, list.GetMaxIndex()), 0);
+            }
+            ASSERT_EQ(list.CheckIndex(), "") << "group " << group << ", step " << step;
+            ASSERT_EQ(other.CheckIndex(), "") << "group " << group << ", step " << step;
+            if (list.GetLength() > 100) {
+                list.SetLength(10, true);
+            }
+        }
+    }
+}
 
 TEST(QnXList, DeletingNearTheHeadKeepsEveryIndexReachable) {
     QnXList<int> list(0, 4, INDEX_UNIT);

@@ -21,7 +21,7 @@
 #include <memory>
 #include <utility>
 
-#include "containers/detail/Ordering.h"
+#include "containers/impl/Ordering.h"
 
 namespace qn_detail {
 
