@@ -25,6 +25,7 @@
 
 #include "containers/QnPDList.h"
 #include "frame/QnGeObjList.h"
+#include "polylines/detail/ClosedHitTest.h"
 #include "regions/QnGeGeneralPolygon2d.h"
 #include "regions/QnGePolygon2d.h"
 #include "regions/detail/CrossingGraph.h"
@@ -36,8 +37,7 @@ using RingList = QnPDList<QnGePolygon2d>;
 
 constexpr long MIN_RING_VERTICES = 3;
 
-void FindRings(const QnGeMLine2d& first, const QnGeMLine2d& second, CrossingGraph::TraceKind kind, RingList& rings) {
-    CrossingGraph graph(first, second);
+void FindRings(CrossingGraph& graph, CrossingGraph::TraceKind kind, RingList& rings) {
     if (graph.Build()) {
         graph.Trace(kind, rings);
     }
@@ -88,9 +88,14 @@ enum class VertexPlace {
     ALL_ON    ///< all of them are on the outline
 };
 
-VertexPlace WalkVertices(const QnGeMLine2d& line, const QnGeMLine2d& outline) {
+/// The place of the vertices of `line` to `outline`, over which `index` is the graph's. A walk that goes on past its first
+/// vertex is one along the outline, which only the index makes bearable.
+VertexPlace WalkVertices(const QnGeMLine2d& line, const QnGeMLine2d& outline, qn_detail::OutlineIndex& index) {
     for (long i = 0; i < line.GetVertexNum(); ++i) {
-        const QnBitData hit = outline.HitTest(line.GetVertex(i));
+        const QnGePoint& vertex = line.GetVertex(i);
+        const bool useIndex = i > 0 && outline.IsClosed();
+        const QnBitData hit =
+            useIndex ? qn_detail::ClosedHitTest(outline, vertex).RunWith(index) : outline.HitTest(vertex);
         if (hit.HasBit(HIT_IN)) {
             return VertexPlace::INSIDE;
         }
@@ -163,17 +168,18 @@ QnGeRegion2d* QnGePolygon2d::Union(const QnGePolygon2d& other) const {
         return CopyOutlinePart(*this);
     }
     RingList rings;
-    FindRings(m_outline, other.m_outline, CrossingGraph::TraceKind::UNION, rings);
+    CrossingGraph graph(m_outline, other.m_outline);
+    FindRings(graph, CrossingGraph::TraceKind::UNION, rings);
     if (rings.GetLength() == 1) {
         return TakePolygon(rings).release();
     }
     if (rings.GetLength() > 1) {
         return JoinRings(rings).release();
     }
-    if (WalkVertices(m_outline, other.m_outline) != VertexPlace::OUTSIDE) {
+    if (WalkVertices(m_outline, other.m_outline, graph.GetIndex(1)) != VertexPlace::OUTSIDE) {
         return CopyOutlinePart(other);
     }
-    if (WalkVertices(other.m_outline, m_outline) != VertexPlace::OUTSIDE) {
+    if (WalkVertices(other.m_outline, m_outline, graph.GetIndex(0)) != VertexPlace::OUTSIDE) {
         return CopyOutlinePart(*this);
     }
     return nullptr;
@@ -184,16 +190,17 @@ bool QnGePolygon2d::Inter(const QnGePolygon2d& other, QnGeObjList& out) const {
         return false;
     }
     RingList rings;
-    FindRings(m_outline, other.m_outline, CrossingGraph::TraceKind::INTER, rings);
+    CrossingGraph graph(m_outline, other.m_outline);
+    FindRings(graph, CrossingGraph::TraceKind::INTER, rings);
     if (!rings.IsEmpty()) {
         AppendPolygons(rings, out);
         return true;
     }
-    if (WalkVertices(m_outline, other.m_outline) != VertexPlace::OUTSIDE) {
+    if (WalkVertices(m_outline, other.m_outline, graph.GetIndex(1)) != VertexPlace::OUTSIDE) {
         out.Append(CopyOutlinePart(*this));
         return true;
     }
-    if (WalkVertices(other.m_outline, m_outline) != VertexPlace::OUTSIDE) {
+    if (WalkVertices(other.m_outline, m_outline, graph.GetIndex(0)) != VertexPlace::OUTSIDE) {
         out.Append(CopyOutlinePart(other));
         return true;
     }
@@ -211,7 +218,8 @@ void QnGePolygon2d::SubtractBy(const QnGePolygon2d& other, QnGeObjList& out) con
     QnGeMLine2d outside(other.m_outline);  // the outline of all that is not in `other`
     outside.Reverse();
     RingList rings;
-    FindRings(m_outline, outside, CrossingGraph::TraceKind::INTER, rings);
+    CrossingGraph graph(m_outline, outside);
+    FindRings(graph, CrossingGraph::TraceKind::INTER, rings);
 
     if (rings.GetLength() == 2) {
         std::unique_ptr<QnGePolygon2d> first = TakePolygon(rings);
@@ -229,12 +237,12 @@ void QnGePolygon2d::SubtractBy(const QnGePolygon2d& other, QnGeObjList& out) con
         AppendPolygons(rings, out);
         return;
     }
-    const VertexPlace otherPlace = WalkVertices(outside, m_outline);
+    const VertexPlace otherPlace = WalkVertices(outside, m_outline, graph.GetIndex(0));
     if (otherPlace == VertexPlace::INSIDE) {
         AppendWithHole(m_outline, outside, out);
         return;
     }
-    const VertexPlace thisPlace = WalkVertices(m_outline, outside);
+    const VertexPlace thisPlace = WalkVertices(m_outline, outside, graph.GetIndex(1));
     if (otherPlace == VertexPlace::OUTSIDE && thisPlace == VertexPlace::OUTSIDE) {
         out.Append(CopyOutlinePart(*this));
     }

@@ -50,6 +50,13 @@ public:
     /// The box of the whole outline.
     const FloatBox& GetHull() const { return m_hull; }
 
+    /// A point as a box without extent, in the frame of the boxes.
+    FloatBox GetFrameBox(const QnGePoint& point) const {
+        const auto x = static_cast<float>(point.x - m_centreX);
+        const auto y = static_cast<float>(point.y - m_centreY);
+        return {x, y, x, y};
+    }
+
     /// The number of the topmost level, which is one BoxLanes. Requires at least one edge.
     int GetTopLevel() const { return m_levelNum; }
 
