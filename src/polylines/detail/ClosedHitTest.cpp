@@ -79,9 +79,10 @@ QnBitData ClosedHitTest::Run() const {
     }
 }
 
-// Most points that come here lie on the line: the few edges about the point are asked before all those to its right.
+// An edge without length is on everything at its level, also to its right, so an outline with one takes the pass over all
+// edges. Most points that come here lie on the line: the few edges about the point are asked before all those to its right.
 QnBitData ClosedHitTest::RunWith(OutlineIndex& index) const {
-    if (m_count == 0 || !(g_fZero > 0.0) || !index.IsUsable()) {
+    if (m_count == 0 || !(g_fZero > 0.0) || !index.IsUsable() || index.HasShortEdge()) {
         return Run();
     }
     const FloatBox at = index.GetFrameBox(m_point);
@@ -90,7 +91,7 @@ QnBitData ClosedHitTest::RunWith(OutlineIndex& index) const {
                         (static_cast<double>(hull.y1) - static_cast<double>(hull.y0));
     const double bandHalf = GetBandHalf(span);
     const double margin = std::max(GetMargin(3.0 * span), bandHalf) + FLOAT_ROUNDING * span;
-    if (!std::isfinite(margin)) {
+    if (!std::isfinite(margin) || !std::isfinite(at.x0) || !std::isfinite(at.y0)) {
         return Run();
     }
     FloatBox box = at.Widened(static_cast<float>(margin));

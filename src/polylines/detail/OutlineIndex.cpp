@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "frame/QnGeTolerance.h"
 #include "polylines/QnGeMLine2d.h"
 #include "values/QnGeVector2d.h"
 
@@ -131,6 +132,20 @@ void OutlineIndex::MakeDirections(long block) {
         m_directions[i] = {vector.x, vector.y, length};
     }
     m_made[block] |= HAS_DIRECTIONS;
+}
+
+bool OutlineIndex::HasShortEdge() {
+    if (m_hasShortEdge == Answer::UNKNOWN) {
+        m_hasShortEdge = Answer::NO;
+        for (long i = 0; i < m_edgeNum; ++i) {
+            const QnGePoint& end = GetEdgeEnd(i);
+            if (IsZero(end.x - m_vertices[i].x, g_fZero) && IsZero(end.y - m_vertices[i].y, g_fZero)) {
+                m_hasShortEdge = Answer::YES;
+                break;
+            }
+        }
+    }
+    return m_hasShortEdge == Answer::YES;
 }
 
 long OutlineIndex::GetMemory() const {

@@ -69,6 +69,9 @@ public:
     /// Of the edge that starts at a vertex; of an open outline's last vertex, of the edge that would close it.
     const EdgeDirection& GetDirection(long vertex);
 
+    /// True if an edge is not longer than g_fZero along x and along y: it has no direction to speak of. Looked up once.
+    bool HasShortEdge();
+
     /// Bytes held beside the object itself.
     long GetMemory() const;
 
@@ -78,6 +81,7 @@ public:
 private:
     static constexpr int MAX_LEVELS = 24;
     enum : unsigned char { HAS_BOXES = 1, HAS_DIRECTIONS = 2 };
+    enum class Answer : unsigned char { UNKNOWN, NO, YES };
 
     void MakeUpperLevels();
     void MakeEdgeBoxes(long block);
@@ -90,6 +94,7 @@ private:
     double m_centreX;
     double m_centreY;
     bool m_usable = true;
+    Answer m_hasShortEdge = Answer::UNKNOWN;
     FloatBox m_hull = {};
 
     int m_levelNum = 0;
