@@ -226,7 +226,7 @@ void SvgPage::Arrange() {
         captionLines = std::max(captionLines, SplitLines(panel.caption).size());
     }
     if (m_picture.m_panelShape <= 0.0) {
-        shape = std::clamp(shape, MIN_PANEL_SHAPE, 1.0);
+        shape = std::clamp(shape * (1.0 - 2.0 * PANEL_PADDING) + 2.0 * PANEL_PADDING, MIN_PANEL_SHAPE, 1.0);
     }
     m_columns = static_cast<std::size_t>(std::max(1, m_picture.m_columns));
     const double columns = static_cast<double>(m_columns);
