@@ -89,7 +89,10 @@ Overlay Compute(const data_files::CsvTable& table, std::size_t row, const std::s
     }
     char errorText[64];
     std::snprintf(errorText, sizeof errorText, "error %.0e", overlay.error);
-    picture.Panel(overlay.name + "\n" + errorText).Draw(Drawing(a), SvgRole::A).Draw(Drawing(b), SvgRole::B);
+    picture.Panel(overlay.name + "\n" + errorText)
+        .Focus(MainBox(a) + MainBox(b))
+        .Draw(Drawing(a), SvgRole::A)
+        .Draw(Drawing(b), SvgRole::B);
     if (pieces.GetLength() > 0) {
         picture.Draw(Drawing(pieces), SvgRole::Result);
     }

@@ -54,6 +54,21 @@ inline double AreaOf(const QnGeObjList& regions) {
     return area;
 }
 
+/// The box of a set without its specks: of the rings that make up at least a thousandth of it.
+inline QnGeExtent2d MainBox(const RingSet& rings) {
+    constexpr double SPECK = 1e-3;
+    const double least = SPECK * AreaOf(rings);
+    QnGeExtent2d box;
+    bool isFirst = true;
+    for (const SignedRing& ring : rings) {
+        if (ring.polygon.Area() >= least) {
+            box = isFirst ? ring.box : box + ring.box;
+            isFirst = false;
+        }
+    }
+    return box;
+}
+
 /// The area that two sets have in common. The intersections of their rings are appended to `pieces`.
 ///
 ///     area(A and B) = sum over all pairs of rings of sign * sign * area(ring of A and ring of B)

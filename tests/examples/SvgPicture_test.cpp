@@ -17,6 +17,7 @@
 #include "frame/QnGeObjList.h"
 #include "polylines/QnGeMLine2d.h"
 #include "support/TextGeo.h"
+#include "values/QnGeExtent2d.h"
 
 namespace {
 
@@ -189,6 +190,15 @@ TEST(SvgPicture, PanelsHaveTheirOwnScale) {
     EXPECT_NEAR(std::stod(paths[1].substr(1)) - std::stod(paths[0].substr(1)), 477.0, 0.02);
     EXPECT_NE(svg.find(">small</text>"), std::string::npos);
     EXPECT_NE(svg.find(">large</text>"), std::string::npos);
+}
+
+TEST(SvgPicture, AFocusedPanelShowsThatPart) {
+    // The focus is as wide as high, so the panel is a square and the middle of the focus lies in its middle.
+    const std::string svg =
+        SvgPicture("test").Focus(QnGeExtent2d(1.0, 3.0, 1.0, 3.0)).Draw(*ParseGeo("seg 2,2 100,2"), SvgRole::A).Text();
+    const std::string path = Attributes(svg, "d")[0];
+    EXPECT_EQ(std::stod(path.substr(1)), PAGE_WIDTH / 2.0);
+    EXPECT_GT(std::stod(path.substr(path.find('L') + 1)), PAGE_WIDTH);
 }
 
 TEST(SvgPicture, FineOutlinesStayShort) {

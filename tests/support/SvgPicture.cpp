@@ -14,6 +14,7 @@
 #include "polylines/QnGeMLine2d.h"
 #include "polylines/QnGePolyline2d.h"
 #include "regions/QnGeRegion2d.h"
+#include "values/QnGeExtent2d.h"
 #include "values/QnGePoint2d.h"
 
 SvgPicture::SvgPicture(const std::string& title, const std::string& note) : m_title(title), m_note(note) {}
@@ -40,7 +41,12 @@ SvgPicture& SvgPicture::ScaleBar(double length, const std::string& text) {
 }
 
 SvgPicture& SvgPicture::Panel(const std::string& caption) {
-    m_panels.push_back({caption, {}});
+    m_panels.push_back({caption, {}, {}});
+    return *this;
+}
+
+SvgPicture& SvgPicture::Focus(const QnGeExtent2d& box) {
+    CurrentPanel().focus = {{box.x.min, box.y.min, 0.0}, {box.x.max, box.y.max, 0.0}};
     return *this;
 }
 

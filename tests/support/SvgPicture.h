@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+class QnGeExtent2d;
 class QnGeMLine2d;
 class QnGeObjList;
 class QnGeObject;
@@ -43,6 +44,8 @@ public:
     SvgPicture& ScaleBar(double length, const std::string& text);
     /// What is drawn from here on goes to a new panel. A picture without panels is one panel without caption.
     SvgPicture& Panel(const std::string& caption);
+    /// The part of the model that the current panel shows; all of its contents until set.
+    SvgPicture& Focus(const QnGeExtent2d& box);
 
     // ---- contents --------------------------------------------------------------------------------
 
@@ -92,6 +95,7 @@ private:
     struct PanelData {
         std::string caption;
         std::vector<Item> items;
+        std::vector<Node> focus;  ///< two corners, or nothing
     };
 
     struct LegendEntry {

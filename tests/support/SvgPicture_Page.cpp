@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // SvgPicture_Page.cpp: the layout of a picture and its SVG text.
 //
-// Phases     1  Measure   the box of each panel's contents; lines without ends do not count.
+// Phases     1  Measure   the box of each panel's contents or focus; lines without ends do not count.
 //            2  Arrange   panels of one size, row by row; each scales its contents to fit, the same in x and y.
 //            3  Write     title, legend, then per panel: frame, contents clipped to it, scale bar, caption.
 // Why so     Coordinates are written in page units with two digits, y turned round here and not by a transform, so that
@@ -202,6 +202,12 @@ void SvgPage::AddPiece(const Node& from, const Node& to, Box& box) {
 
 Box SvgPage::Measure(const PanelData& panel) {
     Box box;
+    for (const Node& corner : panel.focus) {
+        box.Add(corner.x, corner.y);
+    }
+    if (!panel.focus.empty()) {
+        return box;
+    }
     for (const Item& item : panel.items) {
         for (const Path& path : item.paths) {
             const std::size_t count = path.endlessStart || path.endlessEnd ? 0 : path.nodes.size();
