@@ -19,8 +19,7 @@ class QnQuene;
 /// Requires   `T` is default constructible and assignable. New elements are value-initialised (0, null, false).
 /// Ownership  Owns its block; copies and assignments are deep. Pointers as elements are not owned.
 /// Fails      `[]`, SetAt and BFind's range are unchecked against the length. Inserting at a bad index appends,
-/// deleting
-///            at one does nothing.
+///            deleting at one does nothing.
 /// Cost       Every Insert, Append and Del makes a new block.
 /// Kept odd   `<` and `>` compare the lengths and nothing else.
 template <class T>

@@ -11,9 +11,9 @@
 /// of `T`; indexes count all entries. Only what is called must be there: `T` needs no order to be held.
 ///
 /// Requires   `T` is complete wherever the sequence is made or destroyed.
-/// Ownership  What is released, deleted, reset, cut off by shrinking or left in the destructor is deleted; what is
-/// taken
-///            off is the caller's. SetCurData and `[]` overwrite a pointer without deleting what it pointed to.
+/// Ownership  What is released, deleted, reset, cut off by shrinking or left in the destructor is deleted; what
+///            is taken off is the caller's. SetCurData and `[]` overwrite a pointer without deleting what it
+///            pointed to.
 /// Fails      Releasing with the cursor out does nothing, taking off answers null.
 template <class T, class Sequence>
 class QUARN_TEMPLATE_API QnOwnedSequence : public Sequence {

@@ -90,9 +90,8 @@ QUARNGEO_API int LineCirIntersect2d(const QnGePoint& center, double radius, cons
 
 /// Where two circles meet in the plan: the number of points, 11 for the same circle.
 ///
-/// Order      q1 lies to the left of the way from the centre of the larger circle to that of the smaller one, from c1
-/// if
-///            the radii are equal.
+/// Order      q1 lies to the left of the way from the centre of the larger circle to that of the smaller one,
+///            from c1 if the radii are equal.
 /// Tolerance  g_distZero.
 /// Z          That of c1.
 /// Fails      What is beyond the number of points stays as it was.

@@ -9,10 +9,10 @@
 /// Order      Ascending, disjoint, no two touching; `+=` and `-=` keep it so.
 /// Units      `period` is that of the curve, 0 for an open one.
 /// Tolerance  g_fZero; g_distZero asks whether there is a period.
-/// Kept odd   ConnectHeadTail leaves a reversed first interval, so it comes last: `+=` and `-=` after it find no order
-/// to
-///            rely on. An empty interval that is not reversed is added and subtracted like any other: it is inserted as
-///            it is, and taking it off splits the interval round it into two that touch.
+/// Kept odd   ConnectHeadTail leaves a reversed first interval, so it comes last: `+=` and `-=` after it find
+///            no order to rely on. An empty interval that is not reversed is added and subtracted like any
+///            other: it is inserted as it is, and taking it off splits the interval round it into two that
+///            touch.
 class QUARNGEO_API QnGeIntervalList : public QnDList<QnGeInterval> {
 public:
     double period;

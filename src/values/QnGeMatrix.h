@@ -64,9 +64,8 @@ public:
 
     /// Whether it turns a plan figure over.
     ///
-    /// Kept odd  Looks at where the x and y axis go: a half turn about an axis in the plan counts too, and a mirror
-    /// that
-    ///           shrinks to a thousandth or less does not.
+    /// Kept odd  Looks at where the x and y axis go: a half turn about an axis in the plan counts too, and a
+    ///           mirror that shrinks to a thousandth or less does not.
     bool IsMirrorMat() const;
 
     // ---- building: moves, scales, turns ------------------------------------------------------------

@@ -12,10 +12,9 @@
 //
 // Phases     1  CrossingSearch  the pairs of edges that meet
 //            2  Enter           one node per pair, threaded into the first ring, then into the second
-// Invariant  After each Enter, nodes[n.next[s]].prev[s] == n and nodes[n.prev[s]].next[s] == n wherever those links
-// lead
-//            to nodes. A link to a plain vertex leads to the vertex right after or before the node's own, and a node
-//            inside an edge has nodes on both sides.
+// Invariant  After each Enter, nodes[n.next[s]].prev[s] == n and nodes[n.prev[s]].next[s] == n wherever those
+//            links lead to nodes. A link to a plain vertex leads to the vertex right after or before the node's
+//            own, and a node inside an edge has nodes on both sides.
 // Why so     Nearly all vertices of a long outline never meet a crossing. They need no node, no links and no marks: a
 //            walk enters a run of them only through the node before it, so that node's marks speak for the run.
 // Order      Crossings are entered in the order of the search. Of several pairs that meet at one corner the last one's

@@ -10,9 +10,8 @@
 //            2  SearchBlock  for each eight of the 64, the blocks among these that are near them; for each edge of the
 //                            eight, the edges of those blocks whose boxes meet its own
 //            3  TestPair     where the two lines meet, with the very operations of QnGeBaseLine2d::IntersectWith
-// Order      Every step goes through its candidates in ascending order, so pairs appear by edge of the first outline
-// and
-//            then by edge of the second without any sort.
+// Order      Every step goes through its candidates in ascending order, so pairs appear by edge of the first
+//            outline and then by edge of the second without any sort.
 // Why so     The tests of a pair are made on parameters, which may exceed [0, 1] by g_fZero, and for nearly parallel
 //            edges the parameters themselves are uncertain: two edges may count as meeting though they are a little
 //            apart. GetMargin bounds how far apart they can be. A box too many costs time and changes nothing.
