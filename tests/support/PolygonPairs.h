@@ -54,6 +54,7 @@ inline Ring Star(RandomSource& random, int count, double x, double y, double inn
         const double radius = random.Double(inner, outer);
         ring.emplace_back(x + radius * std::cos(angle), y + radius * std::sin(angle), random.Double(-1.0, 1.0));
     }
+    MakeCounterClockwise(ring);  // three vertices may leave the centre outside and run round it the other way
     return ring;
 }
 
