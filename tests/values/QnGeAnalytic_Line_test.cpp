@@ -103,6 +103,44 @@ TEST(LineIntersect3d, SolvesFromTheFirstPairOfCoordinatesThatCan) {
     EXPECT_NEAR(t, 4.0, 1e-14);  // in y and z
 }
 
+TEST(LineIntersect3d, SolvesSlantedLinesInEachCoordinatePlane) {
+    const QnGePoint base(5.0, 6.0, 7.0);
+    // the common point is 5 along the first vector and -10 along the second
+    struct Row {
+        QnGeVector3d v1, v2;
+    };
+    const Row rows[] = {{QnGeVector3d(0.6, 0.8, 0.0), QnGeVector3d(0.8, 0.6, 0.0)},
+                        {QnGeVector3d(0.6, 0.0, 0.8), QnGeVector3d(0.8, 0.0, 0.6)},
+                        {QnGeVector3d(0.0, 0.6, 0.8), QnGeVector3d(0.0, 0.8, 0.6)}};
+    for (const Row& row : rows) {
+        const QnGePoint second = base + row.v1 * 5.0 + row.v2 * 10.0;
+        double t = UNTOUCHED;
+        EXPECT_EQ(LineIntersect3d(base, row.v1, second, row.v2, t), 1);
+        EXPECT_NEAR(t, 5.0, 1e-12) << PointText(row.v1);
+    }
+}
+
+TEST(LineIntersect3d, ADeterminantAboveTheParameterToleranceIsEnough) {
+    const QnGeVector3d straight[] = {QnGeVector3d(1.0, 0.0, 0.0), QnGeVector3d(1.0, 0.0, 0.0),
+                                     QnGeVector3d(0.0, 1.0, 0.0)};
+    const QnGeVector3d bent[] = {QnGeVector3d(1.0, 1e-7, 0.0), QnGeVector3d(1.0, 0.0, 1e-7),
+                                 QnGeVector3d(0.0, 1.0, 1e-7)};
+    for (int i = 0; i < 3; ++i) {
+        const QnGePoint second = straight[i] * 5.0 - bent[i] * 7.0;
+        double t = UNTOUCHED;
+        EXPECT_EQ(LineIntersect3d(ORIGIN, straight[i], second, bent[i], t), 1);
+        EXPECT_NEAR(t, 5.0, 1e-6);
+    }
+}
+
+TEST(LineIntersect3d, TakesTheFirstVectorAsAUnitVector) {
+    // seen from the origin the other base lies half a thousandth off; the raw cross product hides that
+    const QnGeVector3d tiny(1e-3, 0.0, 0.0);
+    double t = UNTOUCHED;
+    EXPECT_EQ(LineIntersect3d(ORIGIN, tiny, QnGePoint(1.0, 5e-4, 0.0), tiny, t), 10);
+    EXPECT_EQ(LineIntersect3d(ORIGIN, X_3D, QnGePoint(1.0, 5e-4, 0.0), X_3D, t), 0);
+}
+
 TEST(LineIntersect3d, SkewLinesDoNotMeet) {
     double t = UNTOUCHED;
     EXPECT_EQ(LineIntersect3d(ORIGIN, X_3D, QnGePoint(3.0, 1.0, 2.0), QnGeVector3d(0.0, 1.0, 0.0), t), 0);
@@ -306,6 +344,50 @@ TEST(PlaneIntersect3d, NormalizesTheDirection) {
     EXPECT_EQ(PlaneIntersect3d(3.0, 0.0, 0.0, -6.0, 0.0, 4.0, 0.0, -12.0, q, dir), 10);
     EXPECT_TRUE(IsExactly(dir, 0.0, 0.0, 1.0));
     EXPECT_TRUE(IsExactly(q, 2.0, 3.0, 0.0));
+}
+
+TEST(PlaneIntersect3d, SlantedPlanesMeetOnBoth) {
+    Random random(2513);
+    for (int i = 0; i < PROPERTY_CASES; ++i) {
+        double n1[3];
+        double n2[3];
+        for (int k = 0; k < 3; ++k) {
+            n1[k] = random.Real(0.2, 2.0);
+            n2[k] = -random.Real(0.2, 2.0) * (k == i % 3 ? -1.0 : 1.0);
+        }
+        const int missing = random.Int(0, 3);  // planes along one axis meet in it; 3: along none
+        if (missing < 3) {
+            n1[missing] = n2[missing] = 0.0;
+        }
+        const QnGeVector3d normal1(n1);
+        const QnGeVector3d normal2(n2);
+        const QnGeVector3d cross = normal1 * normal2;
+        if (cross.Length() < 0.05) {
+            continue;
+        }
+        const double d1 = random.Real(-5.0, 5.0);
+        const double d2 = random.Real(-5.0, 5.0);
+        QnGePoint q;
+        QnGeVector3d dir;
+        ASSERT_EQ(PlaneIntersect3d(n1[0], n1[1], n1[2], d1, n2[0], n2[1], n2[2], d2, q, dir), 10);
+        ASSERT_NEAR((normal1 & q) + d1, 0.0, 1e-6);
+        ASSERT_NEAR((normal2 & q) + d2, 0.0, 1e-6);
+        ASSERT_TRUE(IsNear(dir, cross / cross.Length(), 1e-12));
+    }
+}
+
+TEST(PlaneIntersect3d, EachDeterminantCountsAboveTheParameterTolerance) {
+    QnGePoint q;
+    QnGeVector3d dir;
+    EXPECT_EQ(PlaneIntersect3d(1.0, 0.0, 0.0, -2.0, 1.0, 1e-7, 0.0, -2.0, q, dir), 10);
+    EXPECT_TRUE(IsExactly(dir, 0.0, 0.0, 1.0));
+    EXPECT_TRUE(IsNear(q, QnGePoint(2.0, 0.0, 0.0)));
+    EXPECT_EQ(PlaneIntersect3d(1.0, 0.0, 0.0, -2.0, 1.0, 0.0, 1e-7, -2.0, q, dir), 10);
+    EXPECT_TRUE(IsExactly(dir, 0.0, -1.0, 0.0));
+    EXPECT_TRUE(IsNear(q, QnGePoint(2.0, 0.0, 0.0)));
+    EXPECT_EQ(PlaneIntersect3d(0.0, 1.0, 0.0, -2.0, 0.0, 1.0, 1e-7, -2.0, q, dir), 10);
+    EXPECT_TRUE(IsExactly(dir, 1.0, 0.0, 0.0));
+    EXPECT_TRUE(IsNear(q, QnGePoint(0.0, 2.0, 0.0)));
 }
 
 TEST(PlaneIntersect3d, ParallelPlanesLeaveTheOutputs) {

@@ -294,6 +294,9 @@ TEST(QnGeBaseLine2d, NearestPointIsTheFoot) {
     const QnGeBaseLine2d rising(QnGePoint(0.0, 0.0, 0.0), QnGePoint(2.0, 0.0, 8.0));
     EXPECT_TRUE(rising.GetNearestPoint(QnGePoint(1.0, -5.0, 3.0), q));
     EXPECT_TRUE(IsNear(q, QnGePoint(1.0, 0.0, 4.0)));
+    const QnGeBaseLine2d shortVector(QnGeVector2d(1e-5, 0.0), QnGePoint());
+    EXPECT_TRUE(shortVector.GetNearestPoint(QnGePoint(7.0, 5.0), q));
+    EXPECT_TRUE(IsNear(q, QnGePoint(7.0, 0.0, 0.0), 1e-9));
     Random random(2403);
     for (int i = 0; i < PROPERTY_CASES; ++i) {
         const QnGeBaseLine2d line = RandomLine(random);

@@ -225,6 +225,17 @@ TEST(QnGeBaseLine3d, HitTestIsByTheDistanceInSpace) {
     }
 }
 
+TEST(QnGeBaseLine3d, KeptOddHitTestWidensFarFromTheBase) {
+    const QnGeBaseLine3d line = Along(2.0, 0.0, 0.0);
+    for (const bool normalized : {false, true}) {
+        const QnGeBaseLine3d tested = normalized ? Along(1.0, 0.0, 0.0) : line;
+        EXPECT_EQ(Bits(tested.HitTest(QnGePoint(1000.0, 0.0, 5e-4), normalized)), ON);
+        EXPECT_EQ(Bits(tested.HitTest(QnGePoint(-1000.0, 5e-4, 0.0), normalized)), ON);
+        EXPECT_EQ(Bits(tested.HitTest(QnGePoint(1000.0, 0.0, 2e-3), normalized)), 0U);
+        EXPECT_EQ(Bits(tested.HitTest(QnGePoint(1.0, 0.0, 1e-5), normalized)), 0U);
+    }
+}
+
 TEST(QnGeBaseLine3d, SameLineIsParallelAndThroughTheBase) {
     const QnGeBaseLine3d line = Along(2.0, 0.0, 0.0);
     EXPECT_TRUE(line.IsSameLine(Along(5.0, 0.0, 0.0, QnGePoint(9.0, 0.0, 0.0)), true, false));

@@ -195,6 +195,14 @@ TEST(QnGeBasePlane, NearestPointIsTheFootAlongTheNormal) {
     }
 }
 
+TEST(QnGeBasePlane, WithoutANormalThereIsNoNearestPoint) {
+    QnGePoint q(UNTOUCHED, UNTOUCHED, UNTOUCHED);
+    EXPECT_FALSE(Plane(0.0, 0.0, 1e-9, 5.0).GetNearestPoint(QnGePoint(1.0, 2.0, 3.0), q));
+    EXPECT_TRUE(IsExactly(q, UNTOUCHED, UNTOUCHED, UNTOUCHED));
+    EXPECT_TRUE(Plane(0.0, 0.0, 1e-7, -5e-7).GetNearestPoint(QnGePoint(1.0, 2.0, 3.0), q));
+    EXPECT_TRUE(IsNear(q, QnGePoint(1.0, 2.0, 5.0), 1e-9));
+}
+
 TEST(QnGeBasePlane, HitTestTellsTheSide) {
     const QnGeBasePlane scaled = Plane(0.0, 0.0, 4.0, -20.0);
     EXPECT_EQ(Bits(scaled.HitTest(QnGePoint(9.0, 9.0, 5.0), false)), ON);

@@ -232,6 +232,13 @@ TEST(QnGeMatrixCreate, ProjectionFromAnEyeOnThePlaneFailsAndChangesNothing) {
     EXPECT_TRUE(IsIdentity(project));
 }
 
+TEST(QnGeMatrixCreate, ProjectionMeasuresTheEyeOnTheNormalizedPlane) {
+    const QnGeBasePlane plane(QnGeVector3d(0.0, 0.0, 1e-3), QnGePoint(0.0, 0.0, 5.0));
+    QnGeMatrix project;
+    ASSERT_TRUE(project.CreateProjectMatrix(plane, QnGePoint(0.0, 0.0, 5.5), false));
+    EXPECT_TRUE(IsNear(Mapped(project, QnGePoint(1.0, 0.0, 4.5)), QnGePoint(0.5, 0.0, 5.0)));
+}
+
 TEST(QnGeMatrixCreate, ProjectionAlongThePlaneFailsAndChangesNothing) {
     const QnGeBasePlane plane(QnGeVector3d(0.0, 0.0, 1.0), QnGePoint(0.0, 0.0, 5.0));
     QnGeMatrix project;
@@ -328,6 +335,14 @@ TEST(QnGeMatrixCreate, IsMirrorMatOfPlaneMirrorsAndPlanTurns) {
         EXPECT_FALSE(turn.IsMirrorMat()) << angle;
     }
     EXPECT_FALSE(QnGeMatrix().IsMirrorMat());
+}
+
+TEST(QnGeMatrixCreate, IsMirrorMatLiesBelowItsLimit) {
+    QnGeMatrix matrix;
+    matrix[0][0] = -1e-6;
+    EXPECT_FALSE(matrix.IsMirrorMat());
+    matrix[0][0] = -1.0000001e-6;
+    EXPECT_TRUE(matrix.IsMirrorMat());
 }
 
 TEST(QnGeMatrixCreate, KeptOddIsMirrorMatOfAHalfTurnAboutX) {

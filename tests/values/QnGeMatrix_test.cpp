@@ -122,32 +122,32 @@ TEST(QnGeMatrix, LiesRowByRow) {
 }
 
 TEST(QnGeMatrix, PointsAreColumnVectors) {
-    QnGePoint p(1.0, 2.0, 3.0);
+    QnGePoint p(2.0, 3.0, 5.0);
     Numbered().Transform(p);
-    const double w = 31.0 * 1 + 32.0 * 2 + 33.0 * 3 + 34.0;
+    const double w = 31.0 * 2 + 32.0 * 3 + 33.0 * 5 + 34.0;
     EXPECT_TRUE(IsNear(
-        p, QnGePoint((1.0 + 4.0 + 9.0 + 4.0) / w, (11.0 + 24.0 + 39.0 + 14.0) / w, (21.0 + 44.0 + 69.0 + 24.0) / w)));
+        p, QnGePoint((2.0 + 6.0 + 15.0 + 4.0) / w, (22.0 + 36.0 + 65.0 + 14.0) / w, (42.0 + 66.0 + 115.0 + 24.0) / w)));
 }
 
 TEST(QnGeMatrix, SpaceVectorsLeaveOutTheLastColumnButNotW) {
-    QnGeVector3d v(1.0, 2.0, 3.0);
+    QnGeVector3d v(2.0, 3.0, 5.0);
     Numbered().Transform(v);
-    const double w = 31.0 * 1 + 32.0 * 2 + 33.0 * 3 + 34.0;
-    EXPECT_TRUE(IsNear(v, QnGePoint((1.0 + 4.0 + 9.0) / w, (11.0 + 24.0 + 39.0) / w, (21.0 + 44.0 + 69.0) / w)));
+    const double w = 31.0 * 2 + 32.0 * 3 + 33.0 * 5 + 34.0;
+    EXPECT_TRUE(IsNear(v, QnGePoint((2.0 + 6.0 + 15.0) / w, (22.0 + 36.0 + 65.0) / w, (42.0 + 66.0 + 115.0) / w)));
 }
 
 TEST(QnGeMatrix, PlanVectorsKeepZ) {
-    QnGeVector2d v(QnGePoint(1.0, 2.0, 3.0));
+    QnGeVector2d v(QnGePoint(2.0, 3.0, 5.0));
     Numbered().Transform(v);
-    const double w = 31.0 * 1 + 32.0 * 2 + 34.0;
-    EXPECT_TRUE(IsNear(v, QnGePoint((1.0 + 4.0) / w, (11.0 + 24.0) / w, 3.0)));
+    const double w = 31.0 * 2 + 32.0 * 3 + 34.0;
+    EXPECT_TRUE(IsNear(v, QnGePoint((2.0 + 6.0) / w, (22.0 + 36.0) / w, 5.0)));
 }
 
 TEST(QnGeMatrix, Transform2DKeepsZ) {
-    QnGePoint p(1.0, 2.0, 3.0);
+    QnGePoint p(2.0, 3.0, 5.0);
     Numbered().Transform2D(p);
-    const double w = 31.0 * 1 + 32.0 * 2 + 34.0;
-    EXPECT_TRUE(IsNear(p, QnGePoint((1.0 + 4.0 + 4.0) / w, (11.0 + 24.0 + 14.0) / w, 3.0)));
+    const double w = 31.0 * 2 + 32.0 * 3 + 34.0;
+    EXPECT_TRUE(IsNear(p, QnGePoint((2.0 + 6.0 + 4.0) / w, (22.0 + 36.0 + 14.0) / w, 5.0)));
 }
 
 TEST(QnGeMatrix, MovesPointsAndNotVectors) {

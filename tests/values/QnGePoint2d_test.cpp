@@ -129,7 +129,11 @@ TEST(QnGePoint2d, OrderGoesByXThenYOnly) {
     EXPECT_TRUE(p > QnGePoint(0.9, 99.0, 99.0));
     EXPECT_FALSE(p > QnGePoint(1.1, 0.0, 0.0));
     EXPECT_TRUE(p > QnGePoint(1.0 + 5e-7, 1.9, 0.0));
+    EXPECT_FALSE(p > QnGePoint(1.0 - 5e-7, 2.1, 0.0));
     EXPECT_TRUE(p < QnGePoint(1.0, 2.1, 0.0));
+    EXPECT_TRUE(p > QnGePoint(1.0 - 2e-6, 99.0, 0.0));
+    EXPECT_FALSE(p > QnGePoint(1.0, 2.0 - 5e-7, 0.0));
+    EXPECT_TRUE(p > QnGePoint(1.0, 2.0 - 2e-6, 0.0));
     EXPECT_FALSE(p > QnGePoint(1.0, 2.0, -99.0));
     EXPECT_FALSE(p < QnGePoint(1.0, 2.0, 99.0));
 }

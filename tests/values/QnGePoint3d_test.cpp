@@ -100,6 +100,8 @@ TEST(QnGePoint3d, OrderGoesByXThenYThenZ) {
     EXPECT_TRUE(p > QnGePoint(1.0, 2.0, 2.9));
     EXPECT_TRUE(p < QnGePoint(1.0, 2.0, 3.1));
     EXPECT_FALSE(p > QnGePoint(1.0, 2.0, 3.0 - 5e-7));
+    EXPECT_FALSE(p > QnGePoint(1.0 - 5e-7, 2.1, 0.0));
+    EXPECT_FALSE(p > QnGePoint(1.0, 2.0 - 5e-7, 3.1));
 }
 
 TEST(QnGePoint3d, CloneIsANewEqualPoint) {
