@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "containers/Agreement.h"
 #include "containers/KeepReachable.h"
 #include "containers/SequenceModel.h"
-#include "support/ContainerCheckers.h"
 #include "support/LiveObject.h"
 #include "support/RandomSource.h"
 
@@ -77,24 +77,10 @@ private:
         return static_cast<long>(model.items.size()) - std::count(model.items.begin(), model.items.end(), nullptr);
     }
 
-    static void Verify(Sequence& real, const Model& model, const char* name) {
-        std::vector<LiveObject*> items;
-        for (LiveObject* const* p = real.GetFirst(); p != nullptr && items.size() <= model.items.size();
-             p = real.GetNext(p)) {
-            items.push_back(*p);
-        }
-        EXPECT_EQ(items, model.items) << name;
-        EXPECT_EQ(real.GetCur(), model.cur) << "cursor of " << name;
-        if (::testing::Test::HasFailure()) {
-            return;
-        }
-        if constexpr (Model::IS_LIST) {
-            EXPECT_EQ(CheckList<LiveObject*>(real), "") << name;
-        } else {
-            EXPECT_EQ(CheckArray<LiveObject*>(real), "") << name;
-        }
+    void Verify(Sequence& real, const Model& model, const char* name) {
+        ExpectAgreement<LiveObject*>(real, model, m_random, name);
         EXPECT_EQ(real.GetDataNum(), Filled(model)) << name;
-        for (LiveObject* p : items) {
+        for (const LiveObject* p : model.items) {
             EXPECT_TRUE(p == nullptr || p->IsAlive()) << name;
         }
     }

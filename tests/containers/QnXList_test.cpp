@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The indexed list's own; the rules that it shares with all lists stand with QnList.
+// The indexed list's own; the rules that it shares with all lists stand in AnyList_test.cpp.
 #include "containers/QnXList.h"
 
 #include <gtest/gtest.h>

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "containers/Agreement.h"
 #include "containers/KeepReachable.h"
 #include "containers/QnQuene.h"
 #include "containers/SequenceModel.h"
-#include "support/ContainerCheckers.h"
 #include "support/LiveObject.h"
 #include "support/RandomSource.h"
 
@@ -30,8 +30,8 @@ public:
                 Shrink();
             }
             (this->*table[static_cast<std::size_t>(m_random.Long(0, static_cast<long>(table.size()) - 1))])();
-            Verify(s, m, "this");
-            Verify(o, om, "other");
+            ExpectAgreement<int>(s, m, m_random, "this");
+            ExpectAgreement<int>(o, om, m_random, "other");
         }
         if (::testing::Test::HasFailure()) {
             ADD_FAILURE() << "seed " << m_seed << ", calls so far:\n" << m_log.Text();
@@ -77,24 +77,7 @@ private:
     }
 
     // ---- agreement -------------------------------------------------------------------------------
-    static void Verify(Sequence& real, const Model& model, const char* name) {
-        std::vector<int> items;
-        for (const int* p = real.GetFirst(); p != nullptr && items.size() <= model.items.size(); p = real.GetNext(p)) {
-            items.push_back(*p);
-        }
-        EXPECT_EQ(items, model.items) << name;
-        EXPECT_EQ(real.GetCur(), model.cur) << "cursor of " << name;
-        if (::testing::Test::HasFailure()) {
-            return;
-        }
-        if constexpr (Model::IS_LIST) {
-            EXPECT_EQ(CheckList<int>(real), "") << name;
-        } else {
-            EXPECT_EQ(CheckArray<int>(real), "") << name;
-        }
-    }
-
-    /// The text leaves open where the cursor stands; the checker still looks at it.
+    /// For calls that promise no place of the cursor; the checker still looks at it.
     void AdoptCursor() { m.cur = s.GetCur(); }
     void ExpectOut() {
         EXPECT_TRUE(s.IsOut());
