@@ -231,6 +231,49 @@ TEST(ArcOverlap, TouchIsMeasuredInLength) {
     ExpectIntersect(arc, "arc 0,0 r1000 from 0.5 sweep 0.499999", "");
 }
 
+TEST(ArcOverlap, StretchesShorterThanTheAngleToleranceCount) {
+    const char* const arc = "arc 0,0 r1000 from 1 sweep 1";
+    // Over the start and 1e-7 into it, over the start and 1e-7 past the end, 1e-7 before the end, 1e-7 past it.
+    ExpectIntersect(arc, "arc 0,0 r1000 from 0.5 sweep 0.5000001", "arc 0,0 r1000 from 1 sweep 0.0000001");
+    ExpectIntersect(arc, "arc 0,0 r1000 from 0.5 sweep 1.5000001", arc);
+    ExpectIntersect(arc, "arc 0,0 r1000 from 1.9999999 sweep 6",
+                    "arc 0,0 r1000 from 1 sweep 0.7168145928204; arc 0,0 r1000 from 1.9999999 sweep 0.0000001");
+    ExpectIntersect(arc, "arc 0,0 r1000 from 2.0000001 sweep 6", "arc 0,0 r1000 from 1 sweep 0.7168147928204");
+    ExpectIntersect(arc, "arc 0,0 r1000 from 1.5 sweep 0.5000001", "arc 0,0 r1000 from 1.5 sweep 0.5");
+}
+
+TEST(ArcOverlap, SmallArcsTouchWithinAWideAngle) {
+    // On radius 0.01 the length tolerance is 1e-4 radians.
+    const char* const arc = "arc 0,0 r0.01 from 1 sweep 1";
+    ExpectIntersect(arc, "arc 0,0 r0.01 from 2.00009 sweep 1", "point -0.0041614683654714,0.009092974268257");
+    ExpectIntersect(arc, "arc 0,0 r0.01 from 2.00011 sweep 1", "");
+    ExpectIntersect(arc, "arc 0,0 r0.01 from 1.99991 sweep 1", "point -0.0041614683654714,0.009092974268257");
+    ExpectIntersect(arc, "arc 0,0 r0.01 from 1.99989 sweep 1", "arc 0,0 r0.01 from 1.99989 sweep 0.00011");
+    ExpectIntersect(arc, "arc 0,0 r0.01 from 0.5 sweep 0.50009", "point 0.0054030230586814,0.008414709848079");
+    ExpectIntersect(arc, "arc 0,0 r0.01 from 0.5 sweep 0.50011", "arc 0,0 r0.01 from 1 sweep 0.00011");
+}
+
+TEST(ArcOverlap, KeptOddSmallStretchMayHangOverTheEnd) {
+    // Past the end by less than the tolerance nothing is cut.
+    const char* const arc = "arc 0,0 r0.01 from 1 sweep 1";
+    ExpectIntersect(arc, "arc 0,0 r0.01 from 1.5 sweep 0.50005", "arc 0,0 r0.01 from 1.5 sweep 0.50005");
+    ExpectIntersect(arc, "arc 0,0 r0.01 from 0.5 sweep 1.50005", "arc 0,0 r0.01 from 1 sweep 1.00005");
+}
+
+TEST(ArcOverlap, ToleranceIsATenthOfARadianAtMost) {
+    // On radius 5e-6 the length tolerance would be 0.2 radians. The numbers are chosen so that the differences are
+    // exactly 0.1, which counts as a touch, and as covered over the start.
+    const auto overlap = [](double start, double sweep, double otherStart, double otherSweep) {
+        QnGeObjList found;
+        const QnGeArc2d arc(QnGePoint(0, 0), 5e-6, start, sweep);
+        arc.IntersectWith(QnGeArc2d(QnGePoint(0, 0), 5e-6, otherStart, otherSweep), found);
+        return ToText(found);
+    };
+    EXPECT_EQ(overlap(0.2, 0.1, 0.0, 0.4), "arc 0,0 r5e-06 from 0.2 sweep 0.1");
+    EXPECT_EQ(overlap(0.0, 0.13 + 0.1, 0.13, 0.05).substr(0, 5), "point");
+    EXPECT_EQ(overlap(0.0, 0.25, 0.13, 0.05), "arc 0,0 r5e-06 from 0.13 sweep 0.05");
+}
+
 TEST(ArcOverlap, AngleToleranceComesBack) {
     const QnPushVar<double> own(g_angleZero, 3e-5);
     for (const char* other :

@@ -117,6 +117,8 @@ TEST(IntersectCircle, SegmentThatEndsOnTheCircleMeetsItThere) {
     ExpectPair("circle 0,0 r2", "seg -2,0 2,0", "point -2,0; point 2,0");
     // The range is that of the parameter: on a segment of length 1 lengths and parameters are the same.
     ExpectPair("circle 0,0 r2", "seg 0.9999999995,0 1.9999999995,0", "point 2,0");
+    ExpectPair("circle 0,0 r2", "seg 2.0000000005,0 3.0000000005,0", "point 2,0");
+    ExpectPair("circle 0,0 r2", "seg 2.00000001,0 3.00000001,0", "");
     ExpectPair("circle 0,0 r2", "seg 0.99999999,0 1.99999999,0", "");
 }
 

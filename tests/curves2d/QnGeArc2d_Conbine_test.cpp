@@ -92,6 +92,12 @@ TEST(ArcConbine, NeighbourWithinChangesNothing) {
     ExpectJoined("arc 0,0 r2 from 1 sweep 3", "arc 0,0 r2 from 1 sweep 3", STRICT, "arc 0,0 r2 from 1 sweep 3");
 }
 
+TEST(ArcConbine, NeighbourTooShortToBeValidCountsFromTheParameterToleranceOn) {
+    const char* const arc = "arc 0,0 r2 from 1 sweep 1";
+    ExpectJoined(arc, "arc 0,0 r2 from 1.5 sweep 0.0000002", STRICT, arc);
+    ExpectRefused(arc, "arc 0,0 r2 from 1.5 sweep 0.0000000002", STRICT);
+}
+
 TEST(ArcConbine, NeighbourBehindAGapIsRefused) {
     ExpectRefused("arc 0,0 r2 from 1 sweep 1", "arc 0,0 r2 from 2.1 sweep 1", ANY_DIRECTION);
     ExpectRefused("arc 0,0 r2 from 1 sweep 1", "arc 0,0 r2 from 2.00000001 sweep 1", ANY_DIRECTION);
@@ -126,6 +132,13 @@ TEST(ArcConbine, JoinThatWouldCloseTheCircleIsRefused) {
     ExpectJoined("arc 0,0 r2 from 0 sweep 4", "arc 0,0 r2 from 3.9 sweep 2.38", STRICT, "arc 0,0 r2 from 0 sweep 6.28");
     ExpectJoined("arc 0,0 r2 from 1 sweep 4", "arc 0,0 r2 from 5.01 sweep 2.28", ANY_DIRECTION,
                  "arc 0,0 r2 from -1.2731853071796 sweep 6.2731853071796");
+}
+
+TEST(ArcConbine, GapWithinTheAngleToleranceIsRefusedToo) {
+    // Over the start, and up to 5e-6 short of this arc's end.
+    ExpectRefused("arc 0,0 r2 from 0 sweep 4", "arc 0,0 r2 from 4.000005 sweep 2.7831853071796", ANY_DIRECTION);
+    ExpectJoined("arc 0,0 r2 from 0 sweep 4", "arc 0,0 r2 from 4.00002 sweep 2.7831853071796", STRICT,
+                 "arc 0,0 r2 from -2.2831653071796 sweep 6.2831653071796");
 }
 
 // ---- at random ---------------------------------------------------------------------------------------

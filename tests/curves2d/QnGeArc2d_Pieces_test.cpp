@@ -197,6 +197,7 @@ TEST(QnGeArc2d, SymplifyGivesThePointOfAVanishingArc) {
     ExpectGeo(flat.get(), "point 3,2,3");
     const std::unique_ptr<QnGeObject> small(ArcOf("arc 1,2,3 r9e-7 from 0 sweep 1").Symplify());
     ExpectGeo(small.get(), "point 1.0000009,2,3");
+    EXPECT_EQ(ArcOf("arc 1,2,3 r2e-6 from 0 sweep 1").Symplify(), nullptr);
     EXPECT_EQ(ArcOf("arc 1,2,3 r2 from 0 sweep 2e-5").Symplify(), nullptr);
 }
 
@@ -267,6 +268,14 @@ TEST(QnGeArc2d, ClosedArcKeepsItsExactSweep) {
     arc.Move(1.0, 1.0);
     EXPECT_EQ(arc.GetCentralAngle(), 6.28318);
     EXPECT_TRUE(arc.IsClosed());
+}
+
+TEST(QnGeArc2d, ClosedArcThatStartsAtPlusXStaysThere) {
+    QnGeArc2d arc = ArcOf("arc 0,0 r3 from 0 sweep 2pi cw");
+    arc.Move(1.0, 1.0);
+    EXPECT_EQ(arc.GetStartAngle(), 0.0);
+    arc.Rotate(1.0);
+    EXPECT_NEAR(arc.GetStartAngle(), EXACT_TURN - 1.0, 1e-9);
 }
 
 // ---- stream ------------------------------------------------------------------------------------------

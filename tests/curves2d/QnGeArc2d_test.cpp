@@ -89,6 +89,8 @@ TEST(QnGeArc2d, CentreAndTwoPointsTakeTheRadiusOfTheStart) {
     ExpectGeo(arc, "arc 1,2,3 r4 from 0 sweep pi/2");
     arc.CreateFromCTP(QnGePoint(1, 2, 3), QnGePoint(1, 6), QnGePoint(9, 2), false);
     ExpectGeo(arc, "arc 1,2,3 r4 from 3pi/2 sweep pi/2 cw");
+    arc.CreateFromCTP(QnGePoint(1, 2, 3), QnGePoint(5, 2), QnGePoint(1, 3), false);
+    EXPECT_NEAR(arc.GetCentralAngle(), 3.0 * EXACT_PI / 2.0, 1e-9) << "once over the bottom";
     arc.CreateFromCTP(QnGePoint(1, 2), QnGePoint(1, 6), QnGePoint(1, 7), false);
     EXPECT_EQ(arc.GetCentralAngle(), 0.0);
 }
@@ -242,6 +244,13 @@ TEST(QnGeArc2d, PointFromParameterClampsToTheArc) {
     ExpectPoint(PointAt(arc, 0.5), std::to_string(2.0 * ROOT_HALF) + "," + std::to_string(-2.0 * ROOT_HALF), 1e-6);
 }
 
+TEST(QnGeArc2d, PointFromParameterClampsFromTheParameterToleranceOn) {
+    const QnGeArc2d arc = ArcOf("arc 0,0 r1000000 from 1 sweep 1");
+    EXPECT_EQ(PlanDistance(PointAt(arc, -1e-8), arc.GetStartPoint()), 0.0);
+    EXPECT_EQ(PlanDistance(PointAt(arc, 1.0 + 1e-8), arc.GetEndPoint()), 0.0);
+    EXPECT_NEAR(PlanDistance(PointAt(arc, -9e-10), arc.GetStartPoint()), 9e-4, 1e-6);
+}
+
 TEST(QnGeArc2d, ParameterOfAPointIsNotLimitedToTheArc) {
     const QnGeArc2d arc = ArcOf("arc 0,0 r2 from 0 sweep pi/2");
     EXPECT_NEAR(PaOf(arc, 0.0, 2.0), 1.0, 1e-12);
@@ -334,6 +343,18 @@ TEST(QnGeArc2d, HitTestReachesPastTheEndsByTheLengthTolerance) {
     EXPECT_EQ(hit(1.0 - 1.2e-4), 0U);
 }
 
+TEST(QnGeArc2d, HitTestOnATinyArcIsTheDistanceToItsEnds) {
+    // The arc is 2e-6 long; a tenth of it is all that the parameter may reach past an end.
+    const auto hit = [](double angle) {
+        return HitBits(ArcOf("arc 0,0 r0.000002 from 0 sweep 1"), 2e-6 * std::cos(angle), 2e-6 * std::sin(angle));
+    };
+    EXPECT_EQ(hit(1.09), HIT_ON);
+    EXPECT_EQ(hit(1.45), HIT_ON);
+    EXPECT_EQ(hit(1.6), 0U);
+    EXPECT_EQ(hit(-0.45), HIT_ON);
+    EXPECT_EQ(hit(-0.6), 0U);
+}
+
 TEST(QnGeArc2d, HitTestSideComesFromTheWholeCircle) {
     const QnGeArc2d ccw = ArcOf("arc 0,0 r2 from 0 sweep 1");
     const QnGeArc2d cw = ArcOf("arc 0,0 r2 from 0 sweep 1 cw");
@@ -374,6 +395,11 @@ TEST(QnGeArc2d, ExtentTakesExtremesWithinTheAngleToleranceOfTheEnds) {
     QnGeExtent2d box;
     EXPECT_TRUE(ArcOf("arc 0,0 r1000000 from 9e-6 sweep 1").GetExtent2d(box));
     EXPECT_EQ(box.x.max, 1000000.0);
+    EXPECT_TRUE(ArcOf("arc 0,0 r1000000 from 2e-5 sweep 1").GetExtent2d(box));
+    EXPECT_TRUE(ArcOf("arc 0,0 r1000000 from 1 sweep 0.5707873267948966").GetExtent2d(box));
+    EXPECT_EQ(box.y.max, 1000000.0);
+    EXPECT_TRUE(ArcOf("arc 0,0 r1000000 from 1 sweep 0.5707763267948966").GetExtent2d(box));
+    EXPECT_LT(box.y.max, 1000000.0 - 1e-4);
     EXPECT_TRUE(ArcOf("arc 0,0 r1000000 from 2e-5 sweep 1").GetExtent2d(box));
     EXPECT_LT(box.x.max, 1000000.0 - 1e-4);
 }
