@@ -232,13 +232,13 @@ TEST(LineFamilyProperties, SegmentsAnywhereMeetWhereTheirCarriersDo) {
     for (int i = 0; i < PROPERTY_CASES; ++i) {
         const QnGeLineSeg2d a(RandomPoint(random, 10.0), RandomPoint(random, 10.0));
         const QnGeLineSeg2d b(RandomPoint(random, 10.0), RandomPoint(random, 10.0));
-        const long double det = static_cast<long double>(a.dx) * b.dy - static_cast<long double>(a.dy) * b.dx;
-        const long double wx = static_cast<long double>(b.basePoint.x) - a.basePoint.x;
-        const long double wy = static_cast<long double>(b.basePoint.y) - a.basePoint.y;
-        const double t = static_cast<double>((wx * b.dy - wy * b.dx) / det);
-        const double s = static_cast<double>((wx * a.dy - wy * a.dx) / det);
+        const double det = a.dx * b.dy - a.dy * b.dx;
+        const double wx = b.basePoint.x - a.basePoint.x;
+        const double wy = b.basePoint.y - a.basePoint.y;
+        const double t = (wx * b.dy - wy * b.dx) / det;
+        const double s = (wx * a.dy - wy * a.dx) / det;
         const auto nearEnd = [](double v) { return std::fabs(v) < 1e-6 || std::fabs(v - 1.0) < 1e-6; };
-        if (std::fabs(static_cast<double>(det)) < 1e-3 || nearEnd(t) || nearEnd(s)) {
+        if (std::fabs(det) < 1e-3 || nearEnd(t) || nearEnd(s)) {
             continue;
         }
         const bool expected = t > 0.0 && t < 1.0 && s > 0.0 && s < 1.0;

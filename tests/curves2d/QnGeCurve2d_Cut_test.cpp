@@ -89,6 +89,8 @@ TEST(QnGeCurve2d_Cut, WhatLiesOnTheKnifeGoesToOn) {
 TEST(QnGeCurve2d_Cut, OverlapWithOneEndCutsThere) {
     ExpectCut("line 0,0 1,0", "ray 3,0 1,0", "", "", "ray 3,0 1,0");
     ExpectCut("ray 3,0 1,0", "line 0,0 1,0", "ray 3,0 -1,0", "", "ray 3,0 1,0");
+    ExpectCut("ray 2,0 1,0", "ray reversed 0,0 1,0", "seg 2,0 0,0", "", "ray reversed 2,0 1,0");
+    ExpectCut("ray 0,0 1,0", "ray reversed 2,0 1,0", "", "", "ray reversed 2,0 1,0");
 }
 
 TEST(QnGeCurve2d_Cut, OverlapWithoutEndsIsOnAsAWhole) {

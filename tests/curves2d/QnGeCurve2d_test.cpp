@@ -67,6 +67,12 @@ public:
     }
 };
 
+/// A region of no parts at all.
+class EmptyRegion : public QnGeRegion2d {
+public:
+    bool Explode(QnGeObjList&) const override { return true; }
+};
+
 void ExpectRecord(const QnRxClassInfo& info, long id, const QnRxClassInfo& parent) {
     EXPECT_EQ(info.GetClassID(), id);
     EXPECT_EQ(info.GetParent(), &parent);
@@ -346,6 +352,7 @@ TEST(QnGeCurve2d, IncludesPointsAndWhatIsMadeOfThem) {
     EXPECT_FALSE(square.IsInclude(*ParseGeo("mline 1,0 2,0 3,0")));
     EXPECT_TRUE(square.IsInclude(*ParseGeo("mline 9,9"))) << "no parts: none is off the curve";
     EXPECT_FALSE(square.IsInclude(*ParseGeo("region 0,0 4,0 4,4 0,4"))) << "never a region";
+    EXPECT_FALSE(square.IsInclude(EmptyRegion()));
     EXPECT_FALSE(BareCurve().IsInclude(*ParseGeo("point 0,0")));
 }
 

@@ -214,6 +214,9 @@ TEST(QnGeLineSeg2d, HitTestReachesPastTheEndsByTheDistanceTolerance) {
     EXPECT_EQ(Bits(seg.HitTest(QnGePoint(4.0 + 1.1e-6, 0.0))), 0U);
     const QnGeLineSeg2d endless = Seg(0.0, 0.0, 1e5, 0.0);
     EXPECT_EQ(Bits(endless.HitTest(QnGePoint(-5e-5, 0.0))), HIT_ON) << "by parameter, g_fZero of a long segment";
+    EXPECT_EQ(Bits(endless.HitTest(QnGePoint(1e5 + 5e-5, 0.0))), HIT_ON);
+    EXPECT_EQ(Bits(endless.HitTest(QnGePoint(-2e-4, 0.0))), 0U);
+    EXPECT_EQ(Bits(endless.HitTest(QnGePoint(1e5 + 2e-4, 0.0))), 0U);
 }
 
 TEST(QnGeLineSeg2d, NearestPointIsTheFootOrTheNearerEnd) {
