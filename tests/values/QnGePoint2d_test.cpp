@@ -10,10 +10,12 @@
 
 #include "ValueTesting.h"
 #include "base/QnDynArrayStream.h"
+#include "curves2d/QnGeCurve2d.h"
 #include "curves2d/QnGeLineSeg2d.h"
 #include "frame/QnGeObjList.h"
 #include "frame/QnGeTolerance.h"
 #include "regions/QnGePolygon2d.h"
+#include "regions/QnGeRegion2d.h"
 #include "values/QnGeExtent2d.h"
 #include "values/QnGeExtent3d.h"
 #include "values/QnGeMatrix.h"
@@ -41,6 +43,20 @@ public:
 
 private:
     QnGePoint m_first, m_second;
+};
+
+/// A curve or region (`Base`) that falls into one point.
+template <class Base>
+class FallsIntoAPoint : public Base {
+public:
+    explicit FallsIntoAPoint(const QnGePoint& point) : m_point(point) {}
+    bool Explode(QnGeObjList& parts) const override {
+        parts.Append(new QnGePoint2d(m_point));
+        return true;
+    }
+
+private:
+    QnGePoint m_point;
 };
 
 /// Answers every hit test with one fixed code.
@@ -296,6 +312,9 @@ TEST(QnGePoint2d, IncludesNoCurveAndNoRegion) {
     const QnGeLineSeg2d nullSegment(QnGePoint(1.0, 2.0), QnGePoint(1.0, 2.0));
     EXPECT_FALSE(p.IsInclude(nullSegment));
     EXPECT_FALSE(p.IsInclude(QnGePolygon2d()));
+    EXPECT_FALSE(p.IsInclude(FallsIntoAPoint<QnGeCurve2d>(p)));  // their parts are not asked
+    EXPECT_FALSE(p.IsInclude(FallsIntoAPoint<QnGeRegion2d>(p)));
+    EXPECT_TRUE(p.IsInclude(FallsIntoAPoint<QnGeObject2d>(p)));
 }
 
 TEST(QnGePoint2d, IncludesOtherObjectsThroughTheirParts) {

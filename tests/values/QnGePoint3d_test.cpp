@@ -14,6 +14,7 @@
 #include "frame/QnGeTolerance.h"
 #include "objects3d/QnGeCurve3d.h"
 #include "objects3d/QnGeLine3d.h"
+#include "regions/QnGeRegion2d.h"
 #include "values/QnGeExtent2d.h"
 #include "values/QnGeExtent3d.h"
 #include "values/QnGeMatrix.h"
@@ -39,6 +40,20 @@ public:
 
 private:
     QnGePoint m_first, m_second;
+};
+
+/// A curve or region (`Base`) that falls into one point.
+template <class Base>
+class FallsIntoAPoint : public Base {
+public:
+    explicit FallsIntoAPoint(const QnGePoint& point) : m_point(point) {}
+    bool Explode(QnGeObjList& parts) const override {
+        parts.Append(new QnGePoint3d(m_point));
+        return true;
+    }
+
+private:
+    QnGePoint m_point;
 };
 
 /// Answers every hit test with one fixed code.
@@ -210,6 +225,9 @@ TEST(QnGePoint3d, IncludesPointsAtItsPlaceAndNoCurve) {
     EXPECT_TRUE(p.IsInclude(QnGePoint3d(1.0, 2.0, 3.0)));
     EXPECT_FALSE(p.IsInclude(QnGePoint3d(1.0, 2.0, 4.0)));
     EXPECT_FALSE(p.IsInclude(QnGeLine3d()));
+    EXPECT_FALSE(p.IsInclude(FallsIntoAPoint<QnGeCurve3d>(p)));  // their parts are not asked
+    EXPECT_FALSE(p.IsInclude(FallsIntoAPoint<QnGeRegion2d>(p)));
+    EXPECT_TRUE(p.IsInclude(FallsIntoAPoint<QnGeObject3d>(p)));
     EXPECT_TRUE(p.IsInclude(PairOfPoints(QnGePoint(1.0, 2.0, 3.0), QnGePoint(1.0, 2.0, 3.0))));
     EXPECT_FALSE(p.IsInclude(PairOfPoints(QnGePoint(1.0, 2.0, 3.0), QnGePoint(1.0, 2.0, 9.0))));
 }
