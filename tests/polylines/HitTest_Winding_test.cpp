@@ -62,10 +62,10 @@ std::uint32_t Expected(const QnGeMLine2d& line, const QnGePoint& p, double clear
 }
 
 /// Whether a vertex lies so near to the level of `p` that the answer may be a wanted oddity, unless it is right on it.
-bool NearLevel(const QnGeMLine2d& line, const QnGePoint& p) {
+bool NearLevel(const QnGeMLine2d& line, const QnGePoint& p, double near = 1e-5) {
     for (long i = 0; i < line.GetVertexNum(); ++i) {
         const double gap = std::fabs(line.GetVertex(i).y - p.y);
-        if (gap != 0.0 && gap < 1e-5) {
+        if (gap != 0.0 && gap < near) {
             return true;
         }
     }
@@ -137,7 +137,7 @@ TEST(HitTestWinding, RandomSelfCrossingOutlines) {
 TEST(HitTestWinding, LatticeOutlinesAtPointsOnTheLevelsOfTheirVertices) {
     std::printf("seed %u\n", BaseSeed());
     Tally tally;
-    for (int i = 0; i < 1500; ++i) {
+    for (int i = 0; i < 2500; ++i) {
         const unsigned seed = CaseSeed(92, i);
         RandomSource random(seed);
         const int size = random.Int(2, 8);
@@ -152,6 +152,11 @@ TEST(HitTestWinding, LatticeOutlinesAtPointsOnTheLevelsOfTheirVertices) {
             default:
                 ring = hit_test_outlines::Stairs(random, random.Int(3, 40));
                 break;
+        }
+        const auto same = [](const QnGePoint& a, const QnGePoint& b) { return a.x == b.x && a.y == b.y; };
+        ring.erase(std::unique(ring.begin(), ring.end(), same), ring.end());
+        while (ring.size() > 1 && same(ring.front(), ring.back())) {
+            ring.pop_back();
         }
         const QnGeMLine2d line = MakeOutline(ring);
         for (int k = 0; k < 20; ++k) {
@@ -193,7 +198,7 @@ TEST(HitTestWinding, LatticeOutlinesSayTheSameFarAwayAndInAnyScale) {
 TEST(HitTestWinding, BulgedOutlinesAgainstFineChords) {
     std::printf("seed %u\n", BaseSeed());
     Tally tally;
-    for (int i = 0; i < 500; ++i) {
+    for (int i = 0; i < 800; ++i) {
         const unsigned seed = CaseSeed(94, i);
         RandomSource random(seed);
         const QnGePolyline2d line = random.Coin() ? ConvexBulged(random, random.Int(2, 12), true)
@@ -210,7 +215,9 @@ TEST(HitTestWinding, BulgedOutlinesAgainstFineChords) {
         const double sag = widest * 0.02 * 0.02 / 8.0;
         for (int k = 0; k < 24; ++k) {
             const QnGePoint p(random.Double(-12.0, 12.0), random.Double(-12.0, 12.0));
-            if (DistanceToBoundary(*chords, p) <= 1.1 * sag + 2e-6 || NearLevel(line, p)) {
+            // An arc reaches back before its start by up to g_angleZero.
+            const double reach = 2e-6 + 1.1 * g_angleZero * widest;
+            if (DistanceToBoundary(*chords, p) <= 1.1 * sag + reach || NearLevel(line, p, reach)) {
                 continue;
             }
             const std::uint32_t expected = Winding(*chords, p) % 2 != 0 ? HIT_IN : HIT_OUT;
@@ -248,7 +255,7 @@ TEST(HitTestWinding, BulgedLatticeOutlinesOnEveryLevelThatMatters) {
                                                        << Text(line);
         }
     }
-    EXPECT_GT(tally.in, 2000);
+    EXPECT_GT(tally.in, 1000);
     EXPECT_GT(tally.in + tally.out, 10000);
 }
 

@@ -228,8 +228,31 @@ TEST(HitTest, KeptOddLevelsNextToAJointOfArcAndChord) {
     ExpectHit(box, -3.01, 1.0000003, HIT_IN);
     ExpectHit(box, -3.01, 0.9999997, HIT_IN);
     ExpectHit(box, -3.01, 1.0, HIT_OUT);
-    ExpectHit(box, -3.01, 1.000002, HIT_OUT);
     ExpectHit(box, -3.01, 0.999998, HIT_OUT);
+}
+
+TEST(HitTest, KeptOddArcsReachBackBeforeTheirStart) {
+    // By up to g_angleZero, so the further the larger their radius: the chord and the start of the arc both count.
+    const QnGePolyline2d box = Bulged("1,0 4,0@pi/2 5,1 5,3@pi/2 4,4 1,4@pi/2 0,3 0,1@pi/2 close");
+    ExpectHit(box, -3.01, 1.000002, HIT_IN);
+    ExpectHit(box, -3.01, 1.000009, HIT_IN);
+    ExpectHit(box, -3.01, 1.000011, HIT_OUT);
+    const QnGePolyline2d flat = Bulged("0,0 10,0@0.01 0,10 close");  // a radius of about 1414
+    ExpectHit(flat, -1.0, 0.01, HIT_OUT);
+    ExpectHit(flat, -1.0, -0.005, HIT_IN);
+    ExpectHit(flat, -1.0, -0.02, HIT_OUT);
+}
+
+TEST(HitTest, KeptOddARepeatedVertexIsOnOnItsWholeLevel) {
+    const QnGeMLine2d line = Straight("0,0 4,0 4,2 4,2 4,4 0,4 close");
+    ExpectHit(line, 1.0, 2.0, HIT_ON);
+    ExpectHit(line, -7.0, 2.0, HIT_ON);
+    ExpectHit(line, 100.0, 2.0, HIT_ON);
+    ExpectHit(line, 1.0, 2.0000001, HIT_IN);
+    QnGeMLine2d cleaned(line);
+    EXPECT_TRUE(cleaned.RemoveDupPoint());
+    ExpectHit(cleaned, 1.0, 2.0, HIT_IN);
+    ExpectHit(cleaned, -7.0, 2.0, HIT_OUT);
 }
 
 TEST(HitTest, ALineThatNeverLeavesTheLevelDoesNotHoldTheWalk) {

@@ -142,7 +142,7 @@ TEST(Parameter, KeptOddAPolylineAnswersFalseAtItsEndsAndFillsThePoint) {
         ExpectPtFromPa(open, 1.0 + 0.5 * pa, false, QnGePoint(-2.0, 0.0, 20.0));
         ExpectPtFromPa(closed, 1.0 + 0.5 * pa, false, QnGePoint(2.0, 0.0, 10.0));
     }
-    ExpectPtFromPa(open, 3e-9, true, QnGePoint(2.0, 0.0, 10.0 + 3e-8));
+    ExpectPtFromPa(open, 3e-9, true, QnGePoint(2.0, 3e-9 * PI * 2.0, 10.0 + 3e-8));
     QnGePoint p;
     EXPECT_FALSE(open.GetPtFromDist(0.0, p));
     EXPECT_FALSE(open.GetPtFromDist(open.Length(), p));
@@ -229,7 +229,8 @@ TEST(Parameter, DistancesOfAMultiLineAreInPlan) {
     ExpectDistFromPa(line, 0.5, true, 5.5);
     ExpectDistFromPa(line, 5.0 / 6.0, true, 9.5);
     ExpectDistFromPa(line, 1.0, true, 12.0);
-    ExpectDistFromPa(line, 1.0 + 1e-9, true, 12.0);
+    ExpectDistFromPa(line, 1.0 + 5e-10, true, 12.0);
+    ExpectDistFromPa(line, 1.0 - 5e-10, true, 12.0);
     ExpectDistFromPa(line, 1e-9, true, 0.0);
     ExpectDistFromPa(line, -0.1, true, -1.2);
     ExpectDistFromPa(line, 1.1, true, 13.5);

@@ -113,7 +113,7 @@ inline QnGePolyline2d RandomPolyline(RandomSource& random, int count, bool close
         const double y = random.Double(-size, size);
         const double z = random.Double(-size, size);
         const bool bulged = random.Double(0.0, 1.0) < bulgeShare;
-        double bulge = bulged ? random.Double(-4.0, 4.0) : 0.0;
+        double bulge = bulged ? random.Double(0.1, 4.0) * (random.Coin() ? 1.0 : -1.0) : 0.0;
         if (!closed && i == count - 1) {
             bulge = 0.0;
         }
@@ -122,13 +122,20 @@ inline QnGePolyline2d RandomPolyline(RandomSource& random, int count, bool close
     return line;
 }
 
+/// A parameter that is not within a hundredth of a segment's width of a vertex: near one, arcs take angles of up to
+/// g_angleZero for none.
+inline double InnerPa(RandomSource& random, const QnGeMLine2d& line) {
+    const double segment = static_cast<double>(random.Long(0, line.GetSegNum() - 1));
+    return (segment + random.Double(0.01, 0.99)) / static_cast<double>(line.GetSegNum());
+}
+
 /// Moderate bulges, so that the arcs stay near their chords and parameters are well conditioned.
 inline QnGePolyline2d ConvexBulged(RandomSource& random, int count, bool closed) {
     QnGePolyline2d line(0, closed);
     for (int i = 0; i < count; ++i) {
         const double angle = 2.0 * PI * (i + random.Double(-0.2, 0.2)) / count;
         const double radius = random.Double(4.0, 6.0);
-        const double bulge = random.Coin() ? random.Double(-0.6, 0.6) : 0.0;
+        const double bulge = random.Coin() ? random.Double(0.1, 0.6) * (random.Coin() ? 1.0 : -1.0) : 0.0;
         const QnGePoint p(radius * std::cos(angle), radius * std::sin(angle), random.Double(-2.0, 2.0));
         line.AppendVertex(p, !closed && i == count - 1 ? 0.0 : bulge);
     }

@@ -33,11 +33,6 @@ struct RandomCase {
     RandomCase(const RandomCase&) = delete;
     RandomCase& operator=(const RandomCase&) = delete;
     std::string About() const { return "seed " + std::to_string(seed) + '\n' + Text(line); }
-    /// A parameter that is not within a hundredth of a segment's width of a vertex.
-    double InnerPa() {
-        const double count = static_cast<double>(line.GetSegNum());
-        return (static_cast<double>(random.Long(0, line.GetSegNum() - 1)) + random.Double(0.01, 0.99)) / count;
-    }
 };
 
 }  // namespace
@@ -47,7 +42,7 @@ TEST(PolylineLaws, AParameterComesBackFromItsPoint) {
     long same = 0;
     for (int i = 0; i < PROPERTY_CASES; ++i) {
         RandomCase c(100, i);
-        const double t = c.InnerPa();
+        const double t = InnerPa(c.random, c.line);
         QnGePoint p;
         ASSERT_TRUE(c.line.GetPtFromPa(t, p));
         double back = UNTOUCHED;
@@ -59,14 +54,15 @@ TEST(PolylineLaws, AParameterComesBackFromItsPoint) {
         ASSERT_LE(back, t + 1e-6) << c.About();
         same += std::fabs(back - t) < 1e-6;
     }
-    EXPECT_GT(same, PROPERTY_CASES * 99 / 100);
+    // The second segment of a closed line of two vertices lies on the first.
+    EXPECT_GT(same, PROPERTY_CASES * 97 / 100);
 }
 
 TEST(PolylineLaws, DistanceAndParameterAreInverse) {
     std::printf("seed %u\n", BaseSeed());
     for (int i = 0; i < PROPERTY_CASES; ++i) {
         RandomCase c(101, i);
-        const double t = c.InnerPa();
+        const double t = InnerPa(c.random, c.line);
         double dist = UNTOUCHED;
         ASSERT_TRUE(c.line.GetDistFromPa(t, dist));
         ASSERT_GE(dist, 0.0) << c.About();
@@ -79,8 +75,8 @@ TEST(PolylineLaws, DistanceAndParameterAreInverse) {
         double pa = UNTOUCHED;
         ASSERT_TRUE(c.line.GetPaFromDist(along, pa)) << along << ' ' << c.About();
         ASSERT_TRUE(c.line.GetDistFromPa(pa, dist));
-        // Angles within g_angleZero of a vertex snap to it.
-        ASSERT_NEAR(dist, along, 1e-5 + 2.0 * g_angleZero * c.line.Length()) << c.About();
+        // Angles within g_angleZero of a vertex snap to it, and the radius may be ten times the length.
+        ASSERT_NEAR(dist, along, 1e-5 + 20.0 * g_angleZero * c.line.Length()) << c.About();
     }
 }
 
@@ -147,7 +143,7 @@ TEST(PolylineLaws, LengthAndIntegralAreTheSumsOfThePieces) {
 TEST(PolylineLaws, TangentsPointAlongTravel) {
     for (int i = 0; i < PROPERTY_CASES; ++i) {
         RandomCase c(106, i);
-        const double t = c.InnerPa();
+        const double t = InnerPa(c.random, c.line);
         QnGeBaseLine2d tangent;
         c.line.GetTangent(t, tangent);
         QnGePoint p;

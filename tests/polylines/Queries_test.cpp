@@ -254,6 +254,15 @@ TEST(Inherited, IntersectionsAreThoseOfThePieces) {
     ExpectNoIntersect("mline 0,0 4,0 4,4", "seg 5,5 6,6");
 }
 
+TEST(Inherited, OnlyAClosedLineHasACurveThatCarriesItOn) {
+    const QnGeMLine2d closed = Straight("0,0 4,0 4,4 close");
+    const std::unique_ptr<QnGeCurve2d> same(closed.GetExtendCurve());
+    ExpectGeo(same.get(), "mline 0,0 4,0 4,4 close");
+    EXPECT_EQ(Straight("0,0 4,0 4,4").GetExtendCurve(), nullptr);
+    const std::unique_ptr<QnGeCurve2d> bulged(Bulged("2,0@pi -2,0 close").GetExtendCurve());
+    ExpectGeo(bulged.get(), "pline 2,0@pi -2,0 close");
+}
+
 TEST(Inherited, ALineConnectsAtItsEnd) {
     EXPECT_TRUE(Straight("0,0 4,0").IsConnectWith(Straight("4,0 5,5")));
     EXPECT_FALSE(Straight("0,0 4,0").IsConnectWith(Straight("5,5 4,0")));

@@ -139,6 +139,13 @@ TEST(SubCurve, TheWholeTurnOfAPolyline) {
     ExpectSub(mixed, 0.375, 0.375, "pline 6,2@pi/2 4,4 0,4 0,0 4,0@pi/2 6,2");
 }
 
+TEST(SubCurve, HeightsOfTheEnds) {
+    ExpectSub(Straight("0,0,10 4,0,20 4,4,0"), 0.125, 0.75, "mline 1,0,12.5 4,0,20 4,2,10");
+    ExpectSub(Bulged("0,0,10 4,0,20@pi 4,4,0"), 0.125, 0.25, "pline 1,0,12.5 2,0,15");
+    // A point on an arc has the height of the arc, which is that of its first vertex.
+    ExpectSub(Bulged("0,0,10 4,0,20@pi 4,4,0"), 0.25, 0.75, "pline 2,0,15 4,0,20@pi/2 6,2,20");
+}
+
 TEST(SubCurve, BetweenPoints) {
     const QnGeMLine2d line = Straight("0,0 4,0 4,4");
     const std::unique_ptr<QnGeCurve2d> sub(line.GetSubCurve(QnGePoint(1.0, 0.0), QnGePoint(4.0, 2.0)));
@@ -152,8 +159,8 @@ TEST(SubCurve, HasTheLengthBetweenItsDistances) {
         RandomSource random(seed);
         const QnGePolyline2d line = RandomPolyline(random, random.Int(2, 9), true, 0.5);
         const QnGeMLine2d chords(line);
-        const double a = random.Double(0.0, 1.0);
-        const double b = random.OneIn(10) ? a : random.Double(0.0, 1.0);
+        const double a = InnerPa(random, line);
+        const double b = random.OneIn(10) ? a : InnerPa(random, line);
         for (const QnGeMLine2d* curve : {static_cast<const QnGeMLine2d*>(&line), &chords}) {
             double from = 0.0;
             double to = 0.0;
