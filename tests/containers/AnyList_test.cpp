@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
 #include "containers/GroupedList.h"
@@ -48,7 +49,16 @@ protected:
 
 using ListTypes = ::testing::Types<QnList<int>, QnDList<int>, GroupedList<int, 1>, GroupedList<int, 2>,
                                    GroupedList<int, 3>, GroupedList<int, 4>, GroupedList<int, 25>>;
-TYPED_TEST_SUITE(AnyList, ListTypes);
+
+struct ListNames {
+    template <class List>
+    static std::string GetName(int i) {
+        static const char* const names[] = {"QnList",          "QnDList",         "QnXListOfGroup1", "QnXListOfGroup2",
+                                            "QnXListOfGroup3", "QnXListOfGroup4", "QnXListOfGroup25"};
+        return names[i];
+    }
+};
+TYPED_TEST_SUITE(AnyList, ListTypes, ListNames);
 
 // ---- cursor --------------------------------------------------------------------------------------
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "containers/GroupedList.h"
@@ -53,7 +54,15 @@ protected:
 };
 
 using PointerLists = ::testing::Types<QnPDList<LiveObject>, GroupedPList<LiveObject, 1>, GroupedPList<LiveObject, 4>>;
-TYPED_TEST_SUITE(AnyPointerList, PointerLists);
+
+struct PointerListNames {
+    template <class List>
+    static std::string GetName(int i) {
+        static const char* const names[] = {"QnPDList", "QnPXListOfGroup1", "QnPXListOfGroup4"};
+        return names[i];
+    }
+};
+TYPED_TEST_SUITE(AnyPointerList, PointerLists, PointerListNames);
 
 TYPED_TEST(AnyPointerList, DestructorDeletesTheObjects) {
     {

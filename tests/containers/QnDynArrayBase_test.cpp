@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
 #include "containers/GroupedList.h"
@@ -71,7 +72,15 @@ protected:
 };
 
 using SequenceKinds = ::testing::Types<ArrayKind, ListKind, DListKind, XListKind>;
-TYPED_TEST_SUITE(AnySequence, SequenceKinds);
+
+struct SequenceNames {
+    template <class Kind>
+    static std::string GetName(int i) {
+        static const char* const names[] = {"QnDynArray", "QnList", "QnDList", "QnXList"};
+        return names[i];
+    }
+};
+TYPED_TEST_SUITE(AnySequence, SequenceKinds, SequenceNames);
 
 TYPED_TEST(AnySequence, MoveToItsOwnPlaceIsFalseAndChangesNothing) {
     Fill(this->Base(), {0, 1, 2, 3});
