@@ -81,6 +81,51 @@ inline unsigned BoxLanes::GetMeeting(const FloatBox& box) const {
 
 #endif
 
+/// The vertices of eight edges in a row, in the same frame: edge k runs from vertex k to vertex k + 1.
+struct alignas(16) BlockVertices {
+    static constexpr int COUNT = BoxLanes::COUNT + 1;
+    static constexpr int SPACE = 12;
+
+    float x[SPACE];
+    float y[SPACE];
+
+    /// Bit k is set if both ends of edge k lie further than `clearance` from a line, on the same side of it. The line is
+    /// the one of all points p with the cross product of the unit direction and p equal to `offset`.
+    unsigned GetEdgesBeside(float directionX, float directionY, float offset, float clearance) const;
+};
+
+#if defined(__SSE2__)
+
+inline unsigned BlockVertices::GetEdgesBeside(float directionX, float directionY, float offset, float clearance) const {
+    const __m128 dx = _mm_set1_ps(directionX);
+    const __m128 dy = _mm_set1_ps(directionY);
+    const __m128 low = _mm_set1_ps(offset - clearance);
+    const __m128 high = _mm_set1_ps(offset + clearance);
+    unsigned left = 0;
+    unsigned right = 0;
+    for (int k = 0; k < SPACE; k += 4) {
+        const __m128 cross = _mm_sub_ps(_mm_mul_ps(dx, _mm_load_ps(y + k)), _mm_mul_ps(dy, _mm_load_ps(x + k)));
+        left |= static_cast<unsigned>(_mm_movemask_ps(_mm_cmpgt_ps(cross, high))) << k;
+        right |= static_cast<unsigned>(_mm_movemask_ps(_mm_cmplt_ps(cross, low))) << k;
+    }
+    return (left & left >> 1) | (right & right >> 1);
+}
+
+#else
+
+inline unsigned BlockVertices::GetEdgesBeside(float directionX, float directionY, float offset, float clearance) const {
+    unsigned left = 0;
+    unsigned right = 0;
+    for (int k = 0; k < COUNT; ++k) {
+        const float cross = directionX * y[k] - directionY * x[k];
+        left |= (cross > offset + clearance ? 1U : 0U) << k;
+        right |= (cross < offset - clearance ? 1U : 0U) << k;
+    }
+    return (left & left >> 1) | (right & right >> 1);
+}
+
+#endif
+
 /// Takes the lowest set bit out of `bits` and gives its position.
 inline int TakeLowestLane(unsigned& bits) {
     const int lane = __builtin_ctz(bits);

@@ -42,6 +42,7 @@ OutlineIndex::OutlineIndex(const QnGeMLine2d& outline, const QnGePoint& centre)
       m_centreY(centre.y) {
     const long vertexBlocks = (m_vertexNum + LANES - 1) / LANES;
     m_edgeBoxes = PodArray<BoxLanes>(GetBlockNum());
+    m_blockVertices = PodArray<BlockVertices>(GetBlockNum());
     m_directions = PodArray<EdgeDirection>(m_vertexNum);
     m_made = PodArray<unsigned char>(vertexBlocks);
     std::fill(m_made.begin(), m_made.end(), static_cast<unsigned char>(0));
@@ -101,23 +102,22 @@ void OutlineIndex::MakeUpperLevels() {
 
 void OutlineIndex::MakeEdgeBoxes(long block) {
     BoxLanes& lanes = m_edgeBoxes[block];
+    BlockVertices& vertices = m_blockVertices[block];
     const long first = block * LANES;
     const long count = std::min<long>(LANES, m_edgeNum - first);
     if (count < LANES) {
         ClearLanes(lanes);
     }
-    float x = static_cast<float>(m_vertices[first].x - m_centreX);
-    float y = static_cast<float>(m_vertices[first].y - m_centreY);
+    for (long k = 0; k < BlockVertices::SPACE; ++k) {
+        const QnGePoint& vertex = k == 0 ? m_vertices[first] : GetEdgeEnd(first + std::min(k, count) - 1);
+        vertices.x[k] = static_cast<float>(vertex.x - m_centreX);
+        vertices.y[k] = static_cast<float>(vertex.y - m_centreY);
+    }
     for (long k = 0; k < count; ++k) {
-        const QnGePoint& end = GetEdgeEnd(first + k);
-        const float nextX = static_cast<float>(end.x - m_centreX);
-        const float nextY = static_cast<float>(end.y - m_centreY);
-        lanes.x0[k] = std::min(x, nextX);
-        lanes.x1[k] = std::max(x, nextX);
-        lanes.y0[k] = std::min(y, nextY);
-        lanes.y1[k] = std::max(y, nextY);
-        x = nextX;
-        y = nextY;
+        lanes.x0[k] = std::min(vertices.x[k], vertices.x[k + 1]);
+        lanes.x1[k] = std::max(vertices.x[k], vertices.x[k + 1]);
+        lanes.y0[k] = std::min(vertices.y[k], vertices.y[k + 1]);
+        lanes.y1[k] = std::max(vertices.y[k], vertices.y[k + 1]);
     }
     m_made[block] |= HAS_BOXES;
 }
@@ -149,7 +149,8 @@ bool OutlineIndex::HasShortEdge() {
 }
 
 long OutlineIndex::GetMemory() const {
-    return m_upper.GetMemory() + m_edgeBoxes.GetMemory() + m_directions.GetMemory() + m_made.GetMemory();
+    return m_upper.GetMemory() + m_edgeBoxes.GetMemory() + m_blockVertices.GetMemory() + m_directions.GetMemory() +
+           m_made.GetMemory();
 }
 
 }  // namespace qn_detail

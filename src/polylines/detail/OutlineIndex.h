@@ -30,7 +30,7 @@ struct EdgeDirection {
 /// who searches widens the box he searches with.
 ///
 /// Ownership  The outline is looked at and must outlive the index unchanged.
-/// Cost       One pass over the vertices to make; 16 bytes an edge for level 0, 24 for the directions, 3 for the rest.
+/// Cost       One pass over the vertices to make; 28 bytes an edge for level 0, 24 for the directions, 3 for the rest.
 class OutlineIndex {
 public:
     OutlineIndex(const QnGeMLine2d& outline, const QnGePoint& centre);
@@ -69,6 +69,9 @@ public:
     /// Of the edge that starts at a vertex; of an open outline's last vertex, of the edge that would close it.
     const EdgeDirection& GetDirection(long vertex);
 
+    /// The vertices of the edges of a block whose boxes have been asked for.
+    const BlockVertices& GetBlockVertices(long block) const { return m_blockVertices[block]; }
+
     /// True if an edge is not longer than g_fZero along x and along y: it has no direction to speak of. Looked up once.
     bool HasShortEdge();
 
@@ -101,6 +104,7 @@ private:
     long m_levelStart[MAX_LEVELS] = {};
     PodArray<BoxLanes> m_upper;
     PodArray<BoxLanes> m_edgeBoxes;
+    PodArray<BlockVertices> m_blockVertices;
     PodArray<EdgeDirection> m_directions;
     PodArray<unsigned char> m_made;  ///< HAS_... of each block
 };

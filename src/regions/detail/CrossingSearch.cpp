@@ -8,7 +8,8 @@
 // Phases     For each 64 edges of the first outline, in order:
 //            1  Descend      the blocks of eight edges of the second outline whose box meets theirs
 //            2  SearchBlock  for each eight of the 64, the blocks among these that are near them; for each edge of the
-//                            eight, the edges of those blocks whose boxes meet its own
+//                            eight, the edges of those blocks whose boxes meet its own and that are not all on
+//                            one side of it
 //            3  TestPair     where the two lines meet, with the very operations of QnGeBaseLine2d::IntersectWith
 // Order      Every step goes through its candidates in ascending order, so pairs appear by edge of the first
 //            outline and then by edge of the second without any sort.
@@ -35,6 +36,12 @@ constexpr int LANES = BoxLanes::COUNT;
 constexpr double ROUNDING = 1e-15;
 // Four roundings to float, relative to coordinates that are measured from within the hull.
 constexpr double FLOAT_ROUNDING = 1e-6;
+// Boxes of long slanted edges say little. From so many candidates in a block on it pays to ask on which side of the edge
+// they lie.
+constexpr int WORTH_A_SIDE_TEST = 3;
+// Clearance from an edge's line, in spans, at which the parameter of the crossing is out of range beyond all rounding.
+constexpr double SIDE_CLEARANCE = 4e-6;
+constexpr double SIDE_CLEARANCE_OF_TOLERANCE = 1e6;
 // What the two divisions of a parameter may lose.
 constexpr double DIVISION_ROUNDING = 1e-14;
 
@@ -59,12 +66,14 @@ void CrossingSearch::Run(PodArray<EdgeCrossing>& crossings) {
         return;
     }
     m_found = &crossings;
-    const double margin = GetMargin();
+    const double span = GetSpan();
+    const double margin = GetMargin(span);
     if (!(m_fZero > 0.0) || !std::isfinite(margin) || !m_first.IsUsable() || !m_second.IsUsable()) {
         TestAllPairs();
         return;
     }
     m_margin = static_cast<float>(2.0 * margin);  // one box is widened for both
+    m_clearance = static_cast<float>(SIDE_CLEARANCE * span * (1.0 + SIDE_CLEARANCE_OF_TOLERANCE * m_fZero));
     const int groupLevel = std::min(2, m_first.GetTopLevel() + 1);
     const long blocksInGroup = groupLevel == 2 ? LANES : 1;
     const long groups = (m_first.GetBlockNum() - 1) / blocksInGroup + 1;
@@ -73,12 +82,16 @@ void CrossingSearch::Run(PodArray<EdgeCrossing>& crossings) {
     }
 }
 
+// Width and height of what both outlines cover.
+double CrossingSearch::GetSpan() const {
+    const FloatBox hull = m_first.GetHull().With(m_second.GetHull());
+    return (static_cast<double>(hull.x1) - static_cast<double>(hull.x0)) +
+           (static_cast<double>(hull.y1) - static_cast<double>(hull.y0));
+}
+
 // How far apart two edges can be that still count. Beside the tolerance of lengths: a parameter may stray by g_fZero of
 // an edge, and near-parallel edges (down to a sine of g_fZero) blow up the rounding of their coordinates.
-double CrossingSearch::GetMargin() const {
-    const FloatBox hull = m_first.GetHull().With(m_second.GetHull());
-    const double span = (static_cast<double>(hull.x1) - static_cast<double>(hull.x0)) +
-                        (static_cast<double>(hull.y1) - static_cast<double>(hull.y0));
+double CrossingSearch::GetMargin(double span) const {
     return g_distZero + 4.0 * (m_fZero + ROUNDING / m_fZero) * span + FLOAT_ROUNDING * span;
 }
 
@@ -144,11 +157,23 @@ void CrossingSearch::SearchBlock(long block, const FloatBox& box) {
         const FloatBox edgeBox = edgeBoxes.GetBox(static_cast<int>(k)).Widened(m_margin);
         for (const std::int32_t other : m_candidate) {
             unsigned lanes = m_second.GetEdgeBoxes(other).GetMeeting(edgeBox);
+            if (__builtin_popcount(lanes) >= WORTH_A_SIDE_TEST) {
+                lanes &= ~GetEdgesBeside(first + k, other);
+            }
             while (lanes != 0) {
                 TestPair(first + k, static_cast<long>(other) * LANES + TakeLowestLane(lanes));
             }
         }
     }
+}
+
+// The edges of a block of the second outline that lie clear of the line of edge `i` of the first.
+unsigned CrossingSearch::GetEdgesBeside(long i, long block) {
+    const EdgeDirection& direction = m_first.GetDirection(i);
+    const FloatBox origin = m_first.GetFrameBox(m_first.GetVertex(i));
+    const auto x = static_cast<float>(direction.x);
+    const auto y = static_cast<float>(direction.y);
+    return m_second.GetBlockVertices(block).GetEdgesBeside(x, y, x * origin.y0 - y * origin.x0, m_clearance);
 }
 
 // The operations, and their order, are those of LineIntersect2d on normalised directions.

@@ -30,10 +30,12 @@ private:
     void SearchGroup(long group, int level);
     void SearchBlock(long block, const FloatBox& box);
     void Descend(int level, long group, const FloatBox& box);
+    unsigned GetEdgesBeside(long i, long block);
     void TestPair(long i, long j);
 
     FloatBox GetBox(int level, long index) const;
-    double GetMargin() const;
+    double GetSpan() const;
+    double GetMargin(double span) const;
     std::uint32_t GetFlags(long i, long j, double paA, double paB, double det);
     std::uint32_t GetFlagsOfOne(OutlineIndex& own, long edge, double pa, const EdgeDirection& across,
                                 bool crossesToRight, std::uint32_t leaves, std::uint32_t enters);
@@ -43,6 +45,7 @@ private:
     const double m_fZero;  ///< g_fZero, which cannot change while an operation runs
     double m_slack;        ///< share of an edge by which the quick test lets a parameter stray
     float m_margin = 0.0F;
+    float m_clearance = 0.0F;
     PodArray<std::int32_t> m_near;       ///< blocks of the second outline near the group at hand, ascending
     PodArray<std::int32_t> m_candidate;  ///< of these, the ones near the block at hand
     PodArray<EdgeCrossing>* m_found = nullptr;
