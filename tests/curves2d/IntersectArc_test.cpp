@@ -260,6 +260,14 @@ TEST(ArcOverlap, KeptOddSmallStretchMayHangOverTheEnd) {
     ExpectIntersect(arc, "arc 0,0 r0.01 from 0.5 sweep 1.50005", "arc 0,0 r0.01 from 1 sweep 1.00005");
 }
 
+TEST(ArcOverlap, KeptOddArgumentShorterThanTheToleranceAtTheStartGivesTheWholeArc) {
+    // Both its ends snap to the start, so it reads as one that runs all round.
+    const char* const arc = "arc 0,0 r0.01 from 1 sweep 1";
+    ExpectIntersect(arc, "arc 0,0 r0.01 from 1 sweep 0.00005",
+                    "point 0.0054030230586814,0.008414709848079; arc 0,0 r0.01 from 1 sweep 1");
+    ExpectIntersect(arc, "arc 0,0 r0.01 from 1.5 sweep 0.00005", "arc 0,0 r0.01 from 1.5 sweep 0.00005");
+}
+
 TEST(ArcOverlap, ToleranceIsATenthOfARadianAtMost) {
     // On radius 5e-6 the length tolerance would be 0.2 radians. The numbers are chosen so that the differences are
     // exactly 0.1, which counts as a touch, and as covered over the start.
