@@ -161,7 +161,7 @@ Table MakeTable(const Engines& engines, std::vector<std::string> heads, const ch
     if (lastHead != nullptr) {
         heads.emplace_back(lastHead);
     }
-    return Table(heads);
+    return Table(heads, 2);
 }
 
 }  // namespace

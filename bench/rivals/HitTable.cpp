@@ -70,13 +70,13 @@ double GetLead(const Engines& engines, const std::vector<Score>& scores) {
 }  // namespace
 
 bool RunHits(const Engines& engines, const Options& options) {
-    std::vector<std::string> heads = {"kind", "one point", "n", "points"};
+    std::vector<std::string> heads = {"kind", "n", "points"};
     for (const auto& engine : engines.hits) {
         heads.push_back(engine->GetName());
     }
     heads.emplace_back("ours, a vertex");
     heads.emplace_back("best plain rival / ours");
-    Table table(heads);
+    Table table(heads, 1);
     const std::vector<QnGePoint> points = MakeHitPoints(MOST_POINTS);
     bool isGood = true;
     for (const OutlineKind kind : OUTLINE_KINDS) {
@@ -89,7 +89,7 @@ bool RunHits(const Engines& engines, const Options& options) {
             HitRace race(engines, count);
             const std::vector<Score> scores = race.Run();
             const double lead = GetLead(engines, scores);
-            std::vector<std::string> cells = {GetName(kind), "plain", FormatCount(n), FormatCount(count)};
+            std::vector<std::string> cells = {GetName(kind), FormatCount(n), FormatCount(count)};
             for (const Score& score : scores) {
                 cells.push_back(FormatTime(score.best / static_cast<double>(count)));
             }

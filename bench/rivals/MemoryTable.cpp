@@ -100,7 +100,7 @@ double GetPolygonSize() {
 
 bool RunMemory(const Options& options) {
     const long n = options.GetMostVertices();
-    Table table({"kind", "operation", "n", "vertices + crossings", "peak growth", "bytes for each"});
+    Table table({"kind", "operation", "n", "vertices + crossings", "peak growth", "bytes for each"}, 2);
     bool isGood = true;
     for (const OutlineKind kind : OUTLINE_KINDS) {
         const OutlinePair pair = MakeOutlinePair(kind, n);

@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr std::size_t TEXT_COLUMNS = 2;  ///< the first columns are words and stand left, numbers stand right
-
 /// Three significant digits.
 std::string FormatShort(double number) {
     const int decimals = number < 9.995 ? 2 : (number < 99.95 ? 1 : 0);
@@ -29,13 +27,13 @@ void Table::Print() const {
     for (std::size_t r = 0; r < m_rows.size(); r++) {
         for (std::size_t i = 0; i < widths.size(); i++) {
             const int width = static_cast<int>(widths[i]);
-            std::printf(i < TEXT_COLUMNS ? "| %-*s " : "| %*s ", width, m_rows[r][i].c_str());
+            std::printf(i < m_textColumns ? "| %-*s " : "| %*s ", width, m_rows[r][i].c_str());
         }
         std::printf("|\n");
         if (r == 0) {
             for (std::size_t i = 0; i < widths.size(); i++) {
                 const std::string rule(widths[i], '-');
-                std::printf(i < TEXT_COLUMNS ? "|-%s-" : "|-%s:", rule.c_str());
+                std::printf(i < m_textColumns ? "|-%s-" : "|-%s:", rule.c_str());
             }
             std::printf("|\n");
         }

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "rivals/Machine.h"
 #include "rivals/Tables.h"
 
 namespace {
@@ -47,6 +48,7 @@ Engines MakeEngines(const Options& options) {
 
 int main(int argc, char** argv) {
     const Options options = ReadOptions(argc, argv);
+    PrintMachine();
     const bool isLean = !options.doesMemory || RunMemory(options);  // first, before anything else takes memory
     const Engines engines = MakeEngines(options);
     const bool isFast = !options.doesBooleans || RunBooleans(engines, options);
