@@ -103,6 +103,28 @@ TEST(PlainHitTest, GivesTheSameAnswerWhereOneEdgeTowersOverTheRest) {
     }
 }
 
+TEST(PlainHitTest, GivesTheSameAnswerOnHugeAndTinyCoordinates) {
+    // Up to where the square of a length is still a number.
+    constexpr double SIZES[] = {1e-158, 1e-12, 1e-6, 5.0, 1e30, 1e140};
+    constexpr double ODD[] = {1e150, -1e150, 1e100, 1e30, -1e20, -1e9, 1e-7, 5e-324, -0.0, 1e-160};
+    std::printf("seed %u\n", BaseSeed());
+    for (int i = 0; i < 4000; ++i) {
+        const unsigned seed = CaseSeed(25, i);
+        RandomSource random(seed);
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        const double size = SIZES[i % 6];
+        const long share = random.Long(1, 6);
+        const auto number = [&] { return random.OneIn(share) ? ODD[random.Int(0, 9)] : random.Double(-size, size); };
+        Ring ring;
+        const int n = random.Int(1, 8);
+        for (int k = 0; k < n; ++k) {
+            const double x = number();
+            ring.emplace_back(x, number());
+        }
+        ExpectPlainAnswers(MakeOutline(ring), ring, random, 10);
+    }
+}
+
 TEST(PlainHitTest, GivesTheSameAnswerWithRepeatedVertices) {
     std::printf("seed %u\n", BaseSeed());
     for (int i = 0; i < 800; ++i) {

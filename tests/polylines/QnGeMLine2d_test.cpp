@@ -16,6 +16,7 @@
 #include "curves2d/QnGeLine2d.h"
 #include "curves2d/QnGeLineRay2d.h"
 #include "curves2d/QnGeLineSeg2d.h"
+#include "frame/DynCreateGeObject.h"
 #include "values/QnGePoint2d.h"
 #include "values/QnGePointList.h"
 
@@ -156,6 +157,19 @@ TEST(QnGeMLine2d, CopyFromRefusesAllOtherClassesAndNull) {
         SCOPED_TRACE(other);
         EXPECT_FALSE(line.CopyFrom(ParseGeo(other).get()));
         EXPECT_TRUE(HasExactly(line, "0,0 1,0"));
+    }
+}
+
+TEST(QnGeMLine2d, CopyFromOfEveryClassThatCanBeMade) {
+    for (int id = 100; id <= 1600; ++id) {
+        const std::unique_ptr<QnGeObject> other(DynCreateGeObject(id));
+        if (other == nullptr) {
+            continue;
+        }
+        const bool accepted = id == CLASS_ID_LINE_SEG2D || id == CLASS_ID_MLINE2D || id == CLASS_ID_POLYLINE2D;
+        QnGeMLine2d line = Straight("0,0 1,0");
+        EXPECT_EQ(line.CopyFrom(other.get()), accepted) << id;
+        EXPECT_EQ(HasExactly(line, "0,0 1,0"), !accepted) << id;
     }
 }
 

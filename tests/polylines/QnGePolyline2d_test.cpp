@@ -17,6 +17,7 @@
 #include "curves2d/QnGeEllipse2d.h"
 #include "curves2d/QnGeLineSeg2d.h"
 #include "curves2d/QnGeSpline2d.h"
+#include "frame/DynCreateGeObject.h"
 #include "values/QnGePointList.h"
 
 using namespace polyline_testing;
@@ -186,6 +187,22 @@ TEST(QnGePolyline2d, CopyFromRefusesWhatHasNoPolyline) {
     const QnGeEllipse2d ellipse;
     EXPECT_FALSE(line.CopyFrom(&ellipse));
     EXPECT_TRUE(IsExactly(line, "0,0@1 1,0"));
+}
+
+TEST(QnGePolyline2d, CopyFromOfEveryClassThatCanBeMade) {
+    for (int id = 100; id <= 1600; ++id) {
+        const std::unique_ptr<QnGeObject> other(DynCreateGeObject(id));
+        if (other == nullptr) {
+            continue;
+        }
+        if (id == CLASS_ID_MCURVE2D) {
+            continue;  // what a chain is linearised to is its own business
+        }
+        const bool accepted = id >= CLASS_ID_LINE_SEG2D && id <= CLASS_ID_POLYLINE2D;
+        QnGePolyline2d line = Bulged("0,0@1 1,0");
+        EXPECT_EQ(line.CopyFrom(other.get()), accepted) << id;
+        EXPECT_EQ(IsExactly(line, "0,0@1 1,0"), !accepted) << id;
+    }
 }
 
 // ---- bulges ----------------------------------------------------------------------------------------
