@@ -307,6 +307,14 @@ TEST(QnGeBaseLine2d, NearestPointIsTheFoot) {
     }
 }
 
+TEST(QnGeBaseLine2d, AnInvalidDirectionStillHasAFootWhileItCanBeNormalized) {
+    const QnGeBaseLine2d line(QnGeVector2d(1e-7, 0.0), QnGePoint(1.0, 0.0, 0.0));
+    QnGePoint q;
+    EXPECT_FALSE(line.IsValid());
+    EXPECT_TRUE(line.GetNearestPoint(QnGePoint(7.0, 5.0, 0.0), q));
+    EXPECT_TRUE(IsNear(q, QnGePoint(7.0, 0.0, 0.0), 1e-7));
+}
+
 TEST(QnGeBaseLine2d, NearestPointWithoutDirectionIsTheBase) {
     const QnGeBaseLine2d null(QnGeVector2d(), QnGePoint(1.0, 2.0, 3.0));
     QnGePoint q;

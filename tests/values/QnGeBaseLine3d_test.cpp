@@ -208,6 +208,14 @@ TEST(QnGeBaseLine3d, NearestPointIsTheFoot) {
     }
 }
 
+TEST(QnGeBaseLine3d, AnInvalidDirectionStillHasAFootWhileItCanBeNormalized) {
+    const QnGeBaseLine3d line(QnGeVector3d(1e-7, 0.0, 0.0), QnGePoint(1.0, 0.0, 0.0));
+    QnGePoint q;
+    EXPECT_FALSE(line.IsValid());
+    EXPECT_TRUE(line.GetNearestPoint(QnGePoint(7.0, 5.0, 0.0), q));
+    EXPECT_TRUE(IsNear(q, QnGePoint(7.0, 0.0, 0.0), 1e-7));
+}
+
 TEST(QnGeBaseLine3d, NearestPointWithoutDirectionIsTheBase) {
     const QnGeBaseLine3d null(QnGeVector3d(), QnGePoint(1.0, 2.0, 3.0));
     QnGePoint q;
