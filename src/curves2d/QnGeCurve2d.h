@@ -133,7 +133,7 @@ public:
     /// The curve as chords between points `step` apart along it; `skipVertical` matters to segments only.
     ///
     /// Requires  `step` above 0, otherwise it never ends.
-    /// Fails     Null unless the curve has a length.
+    /// Fails     Null unless the curve has a length, and where coordinates make that infinite.
     virtual QnGeMLine2d* MLinearizeByDist(double step, bool skipVertical) const;
 
     /// The step in Pa that MLinearize takes by itself.

@@ -6,6 +6,7 @@
 //         The answers of the point functions are not looked at: some classes answer false at their ends while they
 //         fill the point.
 
+#include <cmath>
 #include <memory>
 
 #include "curves2d/QnGeCurve2d.h"
@@ -61,6 +62,9 @@ QnGeMLine2d* QnGeCurve2d::MLinearizeByDist(double step, bool /*skipVertical*/) c
     }
     const bool closed = IsClosed();
     const double length = Length();
+    if (std::isinf(length)) {
+        return nullptr;  // no number of steps reaches its end
+    }
 
     QnGePointList points;
     QnGePoint start;

@@ -169,6 +169,12 @@ TEST(QnGeCurve2d_Linearize, ByDistanceNeedsALength) {
     EXPECT_EQ(ByDist(curve, 0.25), nullptr);
 }
 
+TEST(QnGeCurve2d_Linearize, ByDistanceNeedsALengthThatEnds) {
+    const double infinite = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(ByDist(QnGeLineSeg2d(QnGePoint(0.0, 0.0), QnGePoint(infinite, 0.0)), 1.0), nullptr);
+    EXPECT_EQ(ByDist(QnGeCircle2d(QnGePoint(0.0, 0.0), infinite), 1.0), nullptr);
+}
+
 TEST(QnGeCurve2d_Linearize, ByDistanceOfAnArc) {
     const auto arc = ParseGeoAs<QnGeArc2d>("arc 0,0 r2 from 0 sweep pi");
     ExpectGeo(ByDist(*arc, QN_PI).get(), "mline 2,0 0,2 -2,0");

@@ -135,8 +135,8 @@ void CallCurve(const QnGeCurve2d& curve) {
         Drop(curve.PLinearize(prec));
     }
     for (const double step : {0.7, INF, NOT_A_NUMBER}) {
-        if (step < INF && curve.Length() > 1e6) {
-            continue;  // as many vertices as steps: a length without bound has no end of them
+        if (step < INF && curve.Length() > 1e6 && curve.Length() < INF) {
+            continue;  // as many vertices as steps: too many to keep
         }
         Drop(curve.MLinearizeByDist(step, true));
         Drop(curve.MLinearizeByDist(step, false));
