@@ -8,6 +8,7 @@
 // Kept odd   What has no side goes to `in`: that is all that is not on an open knife whose HitTest knows no sides.
 
 #include <memory>
+#include <utility>
 
 #include "containers/QnDynArray.h"
 #include "curves2d/QnGeCurve2d.h"

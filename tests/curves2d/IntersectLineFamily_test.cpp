@@ -107,6 +107,21 @@ TEST(IntersectLineFamily, SegmentWithRayCrossing) {
     ExpectBothWays("seg 0,0 4,0", "ray reversed 3,1 0,1", "");
 }
 
+TEST(IntersectLineFamily, CrossingsAtTheParameterToleranceOfTheOtherObject) {
+    ExpectBothWays("ray 0,0 1,0", "ray 3,5e-10 0,1", "point 3,0");
+    ExpectBothWays("ray 0,0 1,0", "ray 3,2e-9 0,1", "");
+    ExpectBothWays("seg 0,0 4,0", "ray 3,5e-10 0,1", "point 3,0");
+    ExpectBothWays("seg 0,0 4,0", "ray 3,2e-9 0,1", "");
+    ExpectBothWays("seg 0,0 1,0", "ray -5e-10,-1 0,1", "point 0,0");
+    ExpectBothWays("seg 0,0 1,0", "ray -2e-9,-1 0,1", "");
+    ExpectBothWays("seg 0,0 1,0", "ray 1.0000000005,-1 0,1", "point 1,0");
+    ExpectBothWays("seg 0,0 1,0", "ray 1.000000002,-1 0,1", "");
+    ExpectBothWays("seg 0,0 1,0", "line -5e-10,-1 0,1", "point 0,0");
+    ExpectBothWays("seg 0,0 1,0", "line -2e-9,-1 0,1", "");
+    ExpectBothWays("seg 0,0 1,0", "line 1.0000000005,-1 0,1", "point 1,0");
+    ExpectBothWays("seg 0,0 1,0", "line 1.000000002,-1 0,1", "");
+}
+
 TEST(IntersectLineFamily, SegmentWithRayOnOneLine) {
     ExpectBothWays("seg 0,0 4,0", "ray -1,0 1,0", "seg 0,0 4,0");
     ExpectBothWays("seg 0,0 4,0", "ray 0,0 1,0", "seg 0,0 4,0");

@@ -183,6 +183,21 @@ TEST(QnGeCurve2d_Cut, PiecesThatDoNotExistAreLeftOut) {
     ExpectNothing(*knife, QnGeCurve2d());  // it is not met and has no clone
 }
 
+TEST(QnGeCurve2d_Cut, ACrossingWithoutParameterOnTheObjectCutsAtZero) {
+    class ForgetfulCurve : public PathCurve {
+    public:
+        using PathCurve::PathCurve;
+        bool GetPaFromPt(const QnGePoint&, double&) const override { return false; }
+    };
+    Pieces pieces;
+    const ForgetfulCurve object({QnGePoint(0.0, 0.0), QnGePoint(4.0, 0.0)});
+    ParseGeoAs<QnGeCurve2d>("line 1,-1 0,1")->Cut(object, pieces.in, pieces.out, pieces.on);
+    EXPECT_TRUE(pieces.in.IsEmpty());
+    ASSERT_EQ(pieces.out.GetLength(), 1) << "one piece, the whole, sorted by its middle";
+    EXPECT_EQ(static_cast<const PathCurve*>(pieces.out.GetPData(0))->Length(), 4.0);
+    EXPECT_TRUE(pieces.on.IsEmpty());
+}
+
 TEST(QnGeCurve2d_Cut, ListsKeepWhatTheyHold) {
     QnGeObjList all;
     all.Append(ParseGeo("point 9,9").release());

@@ -173,8 +173,11 @@ TEST(QnGeLineSeg2d, CopiesFromSegmentsOnly) {
     }
     EXPECT_FALSE(seg.CopyFrom(nullptr));
     ExpectGeo(seg, "seg 0,0 1,0");
-    EXPECT_TRUE(seg.CopyFrom(ParseGeo("seg 5,5 6,7,8").get()));
+    const auto source = ParseGeo("seg 5,5 6,7,8");
+    source->SetBits(0x100);
+    EXPECT_TRUE(seg.CopyFrom(source.get()));
     ExpectGeo(seg, "seg 5,5 6,7,8");
+    EXPECT_EQ(seg.GetBits(), 0x100U);
 }
 
 TEST(QnGeLineSeg2d, StreamRecordIsTheLines) {
