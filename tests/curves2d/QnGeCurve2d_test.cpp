@@ -397,3 +397,21 @@ TEST(QnGeCurve2d, DoesNotExtendAnOpenChain) {
     EXPECT_EQ(curve.GetExtendCurve(), nullptr);
     EXPECT_EQ(ParseGeoAs<QnGeCurve2d>("mline 0,0 1,0 1,1")->GetExtendCurve(), nullptr);
 }
+
+namespace {
+
+/// A line of a caller's own that has pieces, though its class record is the line's.
+class DashedLine : public QnGeLine2d {
+public:
+    bool Explode(QnGeObjList& parts) const override {
+        parts.Append(new QnGeLineSeg2d(QnGePoint(0.0, 0.0), QnGePoint(3.0, 0.0)));
+        parts.Append(new QnGeLineSeg2d(QnGePoint(5.0, 0.0), QnGePoint(9.0, 0.0)));
+        return true;
+    }
+};
+
+}  // namespace
+
+TEST(QnGeCurve2d, ACallersSubclassOfAPrimitiveIsAskedForItsPieces) {
+    EXPECT_DOUBLE_EQ(DashedLine().QnGeCurve2d::Length(), 7.0);
+}

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "curves2d/QnGeCurve2d.h"
-#include "frame/QnGeClassId.h"
 #include "frame/QnGeObjList.h"
 
 namespace qn_detail {
@@ -11,6 +10,10 @@ using PieceVisit = bool (*)(const QnGeCurve2d& piece, void* context);
 
 /// Whether the curve is exactly a multi-line or a polyline, whose pieces ForEachSegment shows.
 bool IsPlainPolyline(const QnGeCurve2d& curve);
+
+/// Whether the curve is exactly a line, ray, segment, circle or arc, which are known not to explode. A class that a caller
+/// derives from one of them is asked.
+bool IsPlainPrimitive(const QnGeCurve2d& curve);
 
 /// ForEachPiece of a multi-line or polyline: the same pieces, without an object made for each.
 ///
@@ -32,9 +35,8 @@ bool ForEachPiece(const QnGeCurve2d& curve, Visit visit) {
         };
         return ForEachSegment(curve, visitPiece, &visit);
     }
-    const long id = curve.GetClassID();
-    if (id >= CLASS_ID_LINE2D && id <= CLASS_ID_ARC2D) {
-        return false;  // lines, circles and arcs do not explode: it is known without asking
+    if (IsPlainPrimitive(curve)) {
+        return false;
     }
     QnGeObjList pieces;
     if (!curve.Explode(pieces)) {
