@@ -60,6 +60,13 @@ TEST(QnGeRegion2dIsValid, HolesMustBeCorrectCurves) {
     EXPECT_TRUE(IsValid("null; circle 0,0 r2 cw"));
 }
 
+TEST(QnGeRegion2dIsValid, StraightHolesMustLieInsideAndApart) {
+    EXPECT_FALSE(IsValid(InSquare("mline 20,1 20,2 21,2 21,1 close"))) << "outside";
+    EXPECT_FALSE(IsValid(InSquare("mline 8,1 8,2 10,2 10,1 close"))) << "sticks out";
+    EXPECT_FALSE(IsValid(InSquare("mline 1,1 1,4 4,4 4,1 close; mline 3,3 3,5 5,5 5,3 close"))) << "overlap";
+    EXPECT_TRUE(IsValid(InSquare("mline 1,1 1,2 2,2 2,1 close; mline 3,3 3,5 5,5 5,3 close")));
+}
+
 TEST(QnGeRegion2dIsValid, ARegionWithAHoleKeepsItsBoundariesAsTheyAre) {
     const BoundaryRegion region(InSquare("mline 1,1 1,2 2,2 2,1 close"));
     EXPECT_TRUE(region.IsValid());
