@@ -10,6 +10,7 @@
 #include "containers/QnDynArray.h"
 #include "containers/QnDynPArray.h"
 #include "containers/QnFreeList.h"
+#include "containers/QnGraphContainers.h"
 #include "containers/QnList.h"
 #include "containers/QnPDList.h"
 #include "containers/QnPXList.h"
@@ -69,6 +70,7 @@
 #include "regions/QnGeGeneralPolygon2d.h"
 #include "regions/QnGeGeneralRegion2d.h"
 #include "regions/QnGePolygon2d.h"
+#include "regions/QnGePtFreeList.h"
 #include "regions/QnGeRegion2d.h"
 
 // Objects in space: their places in the class tree.

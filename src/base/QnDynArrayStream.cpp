@@ -76,7 +76,9 @@ QnStream& QnDynArrayStream::operator>>(bool& value) {
     return *this;
 }
 
-void QnDynArrayStream::MoveToFirst() { m_position = 0; }
+void QnDynArrayStream::MoveToFirst() {
+    m_position = 0;
+}
 
 void QnDynArrayStream::Reserve(long needed) {
     if (needed <= m_capacity) {

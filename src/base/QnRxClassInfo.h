@@ -24,14 +24,14 @@ public:
     const char* GetName() const { return m_name; }
     long GetClassID() const { return m_classId; }
 
+    static constexpr int PARENT_COUNT = 5;
+
     /// The record of parent `i`, counted from 0.
     ///
     /// Fails  Null where there is no such parent.
     const QnRxClassInfo* GetParent(int i = 0) const;
 
 private:
-    static constexpr int PARENT_COUNT = 5;
-
     const char* m_name;
     long m_classId;
     QnRxDynCreateClass* (*m_creator)();

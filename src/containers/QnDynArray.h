@@ -125,6 +125,9 @@ QnDynArray<T>& QnDynArray<T>::operator=(const QnDynArrayBase<T>& other) {
 
 template <class T>
 void QnDynArray<T>::CopyBlock(const QnDynArray& other) {
+    if (other.m_nLength < 1) {
+        return;
+    }
     m_pData = NewBlock(other.m_nLength);
     m_nCapacity = m_nSpace = m_nLength = other.m_nLength;
     std::copy(other.m_pData, other.m_pData + other.m_nLength, m_pData);

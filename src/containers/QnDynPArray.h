@@ -23,6 +23,7 @@ public:
     QnDynPArray& operator=(const QnDynPArray& other);
     /// Becomes a copy of `other` with copies of its objects.
     void DeepCopy(const QnDynArrayBase<T*>& other);
+    void DeepCopy(const QnArray<T*>& other);
 
     // ---- operations of the family, in slot order -------------------------------------------------
 protected:
@@ -32,6 +33,8 @@ protected:
 public:
     /// With `keep` false all objects are deleted, otherwise those from index `length` on.
     void SetLength(long length, bool keep) override;
+    /// ReleaseCur, then the place itself goes.
+    void DelCur() override;
     using Array::Sort;
     /// Sorts the objects by `operator>` of `T`. The null entries keep their indexes.
     void Sort(bool ascending) override;
@@ -84,6 +87,15 @@ void QnDynPArray<T>::DeepCopy(const QnDynArrayBase<T*>& other) {
 }
 
 template <class T>
+void QnDynPArray<T>::DeepCopy(const QnArray<T*>& other) {
+    QnDynPArray::SetLength(other.GetLength(), false);
+    for (long i = 0; i < other.GetLength(); ++i) {
+        this->m_pData[i] = other[i] != nullptr ? new T(*other[i]) : nullptr;
+    }
+    this->MoveOut();
+}
+
+template <class T>
 void QnDynPArray<T>::DeleteFrom(long index) {
     for (long i = index < 0 ? 0 : index; i < this->m_nLength; ++i) {
         this->DeleteEntry(this->m_pData[i]);
@@ -107,6 +119,14 @@ void QnDynPArray<T>::SetLength(long length, bool keep) {
     Array::SetLength(length, keep);
     for (long i = oldLength; i < this->m_nLength; ++i) {
         this->m_pData[i] = nullptr;
+    }
+}
+
+template <class T>
+void QnDynPArray<T>::DelCur() {
+    if (!this->IsOut()) {
+        ReleaseCur();
+        Array::DelCur();
     }
 }
 

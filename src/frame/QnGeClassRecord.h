@@ -12,8 +12,12 @@
 
 /// Defines the record in the class's source. Records may be built in any order when the library loads: the parent is
 /// reached by address and not read.
-#define QN_DEFINE_CLASS_RECORD(ClassName, ParentName, id)                                                       \
+#define QN_DEFINE_CLASS_RECORD(ClassName, ParentName, id)                                                         \
     QnRxClassInfo ClassName::s_classInfo(#ClassName, (id), nullptr, &ParentName::GetStaticCI(), nullptr, nullptr, \
-                                         nullptr, nullptr);                                                      \
-    QnRxClassInfo& ClassName::GetStaticCI() { return s_classInfo; }                                              \
-    const QnRxClassInfo* ClassName::GetCI() const { return &s_classInfo; }
+                                         nullptr, nullptr);                                                       \
+    QnRxClassInfo& ClassName::GetStaticCI() {                                                                     \
+        return s_classInfo;                                                                                       \
+    }                                                                                                             \
+    const QnRxClassInfo* ClassName::GetCI() const {                                                               \
+        return &s_classInfo;                                                                                      \
+    }

@@ -17,9 +17,13 @@ constexpr long NO_CLASS_ID = 0;
 
 }  // namespace
 
-QnGeObjList::QnGeObjList(const QnGeObject& object) { Append(object.Clone()); }
+QnGeObjList::QnGeObjList(const QnGeObject& object) {
+    Append(object.Clone());
+}
 
-QnGeObjList::QnGeObjList(const QnGeObjList& other) : QnPDList<QnGeObject>() { AppendClones(other); }
+QnGeObjList::QnGeObjList(const QnGeObjList& other) : QnPDList<QnGeObject>() {
+    AppendClones(other);
+}
 
 QnGeObjList& QnGeObjList::operator=(const QnGeObjList& other) {
     if (this != &other) {
@@ -35,21 +39,37 @@ void QnGeObjList::AppendClones(const QnGeObjList& other) {
     }
 }
 
-QnGeCurve2d& QnGeObjList::GetCurCurve2D() { return static_cast<QnGeCurve2d&>(*GetCurData()); }
+QnGeCurve2d& QnGeObjList::GetCurCurve2D() {
+    return static_cast<QnGeCurve2d&>(*GetCurData());
+}
 
-QnGeCurve2d& QnGeObjList::GetCurCurveSeg2D() { return static_cast<QnGeCurve2d&>(*GetCurData()); }
+QnGeCurve2d& QnGeObjList::GetCurCurveSeg2D() {
+    return static_cast<QnGeCurve2d&>(*GetCurData());
+}
 
-QnGeCurve3d& QnGeObjList::GetCurCurve3D() { return static_cast<QnGeCurve3d&>(*GetCurData()); }
+QnGeCurve3d& QnGeObjList::GetCurCurve3D() {
+    return static_cast<QnGeCurve3d&>(*GetCurData());
+}
 
-QnGeObject2d& QnGeObjList::GetCurObject2D() { return static_cast<QnGeObject2d&>(*GetCurData()); }
+QnGeObject2d& QnGeObjList::GetCurObject2D() {
+    return static_cast<QnGeObject2d&>(*GetCurData());
+}
 
-QnGeObject3d& QnGeObjList::GetCurObject3D() { return static_cast<QnGeObject3d&>(*GetCurData()); }
+QnGeObject3d& QnGeObjList::GetCurObject3D() {
+    return static_cast<QnGeObject3d&>(*GetCurData());
+}
 
-QnGeRegion2d& QnGeObjList::GetCurRegion2D() { return static_cast<QnGeRegion2d&>(*GetCurData()); }
+QnGeRegion2d& QnGeObjList::GetCurRegion2D() {
+    return static_cast<QnGeRegion2d&>(*GetCurData());
+}
 
-QnGeFace3d& QnGeObjList::GetCurFace3D() { return static_cast<QnGeFace3d&>(*GetCurData()); }
+QnGeFace3d& QnGeObjList::GetCurFace3D() {
+    return static_cast<QnGeFace3d&>(*GetCurData());
+}
 
-QnGeSolid3d& QnGeObjList::GetCurSolid() { return static_cast<QnGeSolid3d&>(*GetCurData()); }
+QnGeSolid3d& QnGeObjList::GetCurSolid() {
+    return static_cast<QnGeSolid3d&>(*GetCurData());
+}
 
 void QnGeObjList::ReverseCurve2D() {
     for (MoveToFirst(); !IsOut(); MoveToNext()) {
@@ -87,9 +107,13 @@ void QnGeObjList::StreamOut(QnStream& stream) const {
     }
 }
 
-void QnGeObjList::StreamIn(QnStream& stream) { ReadEntries(stream, false); }
+void QnGeObjList::StreamIn(QnStream& stream) {
+    ReadEntries(stream, false);
+}
 
-void QnGeObjList::StreamInWithGaps(QnStream& stream) { ReadEntries(stream, true); }
+void QnGeObjList::StreamInWithGaps(QnStream& stream) {
+    ReadEntries(stream, true);
+}
 
 // A truncated stream reads as zeros: it ends in entries without a class, not in an error.
 void QnGeObjList::ReadEntries(QnStream& stream, bool keepGaps) {

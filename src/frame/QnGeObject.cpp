@@ -52,15 +52,23 @@ bool KeepNearest(const QnGePointList& all, const QnGePoint& point,
 
 QnGeObject::~QnGeObject() = default;
 
-bool QnGeObject::IsValid() const { return false; }
+bool QnGeObject::IsValid() const {
+    return false;
+}
 
-QnGeObject* QnGeObject::Clone() const { return CloneNew(); }
+QnGeObject* QnGeObject::Clone() const {
+    return CloneNew();
+}
 
-bool QnGeObject::CopyFrom(const QnGeObject*) { return false; }
+bool QnGeObject::CopyFrom(const QnGeObject*) {
+    return false;
+}
 
 void QnGeObject::TransformBy(const QnGeMatrix&) {}
 
-bool QnGeObject::Explode(QnGeObjList&) const { return false; }
+bool QnGeObject::Explode(QnGeObjList&) const {
+    return false;
+}
 
 bool QnGeObject::IntersectWith(const QnGeObject& other, QnGeObjList& result) const {
     QnGeObjList parts;
@@ -120,9 +128,13 @@ bool QnGeObject::GetExtent3d(QnGeExtent3d& extent) const {
     return Explode(parts) && parts.GetExtent3d(extent);
 }
 
-bool QnGeObject::GetEcs(QnGeCoordSys&) const { return false; }
+bool QnGeObject::GetEcs(QnGeCoordSys&) const {
+    return false;
+}
 
-QnGePoint QnGeObject::GetSamplePoint() const { return QnGePoint(); }
+QnGePoint QnGeObject::GetSamplePoint() const {
+    return QnGePoint();
+}
 
 bool QnGeObject::GetClosestPoint2d(const QnGePoint& point, QnGePointList& result) const {
     QnGeObjList parts;
@@ -161,7 +173,9 @@ void QnGeObject::StreamOut(QnStream& stream) const {
     stream << static_cast<long>(static_cast<std::int32_t>(m_nBits));
 }
 
-QnGeObject* QnGeObject::Symplify() const { return nullptr; }
+QnGeObject* QnGeObject::Symplify() const {
+    return nullptr;
+}
 
 QnGeObject* QnGeObject::CloneNew() const {
     std::unique_ptr<QnGeObject> copy(DynCreateGeObject(static_cast<int>(GetClassID())));

@@ -32,9 +32,13 @@ bool QnGeObject2d::GetClosestPoint(const QnGePoint& point, QnGePointList& result
 
 void QnGeObject2d::SetElevation(double) {}
 
-double QnGeObject2d::GetElevation() const { return 0.0; }
+double QnGeObject2d::GetElevation() const {
+    return 0.0;
+}
 
-QnGeObject3d* QnGeObject2d::ConvertTo3d() const { return nullptr; }
+QnGeObject3d* QnGeObject2d::ConvertTo3d() const {
+    return nullptr;
+}
 
 void QnGeObject2d::Move(double dx, double dy) {
     QnGeMatrix matrix;

@@ -20,9 +20,13 @@ bool QnGeObject3d::GetClosestPoint2d(const QnGePoint& point, QnGePointList& resu
     return GetClosestPoint(point, result);
 }
 
-QnGeObject2d* QnGeObject3d::ConvertTo2d() const { return nullptr; }
+QnGeObject2d* QnGeObject3d::ConvertTo2d() const {
+    return nullptr;
+}
 
-bool QnGeObject3d::GetPlane(QnGeBasePlane&) const { return false; }
+bool QnGeObject3d::GetPlane(QnGeBasePlane&) const {
+    return false;
+}
 
 void QnGeObject3d::Move(double dx, double dy, double dz) {
     QnGeMatrix matrix;

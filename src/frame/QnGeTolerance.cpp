@@ -43,7 +43,9 @@ double WrapStepwise(double value, double period, double tol) {
 
 }  // namespace
 
-double GetStdAngle(double a) { return WrapStepwise(a, QN_TWO_PI, g_angleZero); }
+double GetStdAngle(double a) {
+    return WrapStepwise(a, QN_TWO_PI, g_angleZero);
+}
 
 double GetStdPa(double pa, double period) {
     if (!(g_fZero < period)) {

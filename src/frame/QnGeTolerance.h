@@ -27,9 +27,15 @@ constexpr double QN_THREE_HALF_PI = 4.71238898038469;
 constexpr double QN_FAR_LIMIT = 1e+50;
 
 /// The three-way comparison of the library: less, zero, greater; a value exactly at the tolerance is zero.
-constexpr bool IsZero(double value, double tol) { return value >= -tol && value <= tol; }
-constexpr bool IsGreater(double value, double tol) { return value > tol; }
-constexpr bool IsLess(double value, double tol) { return value < -tol; }
+constexpr bool IsZero(double value, double tol) {
+    return value >= -tol && value <= tol;
+}
+constexpr bool IsGreater(double value, double tol) {
+    return value > tol;
+}
+constexpr bool IsLess(double value, double tol) {
+    return value < -tol;
+}
 
 /// The angle brought into [0, two pi). What lies within g_angleZero of zero or of a full turn becomes exactly 0.
 ///

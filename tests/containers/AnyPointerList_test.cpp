@@ -327,6 +327,38 @@ TYPED_TEST(AnyPointerList, SortIntoKeepsTheOrderOfArrivalAndRefusesRepeats) {
     EXPECT_EQ(this->list.GetCur(), 5);
 }
 
+TYPED_TEST(AnyPointerList, SortedOperationsPassOverEmptyEntries) {
+    Fill(this->list, {-1, 2, -1, -1, 4, -1, 4, 6, -1});
+    for (const int key : {2, 4, 6}) {
+        EXPECT_EQ(this->list.GetPData(this->list.BFindData(LiveObject(key), 0, -1))->key, key);
+    }
+    EXPECT_EQ(this->list.BFindData(LiveObject(3), 0, -1), -1);
+    EXPECT_EQ(this->list.BFindData(LiveObject(7), 0, -1), -1);
+    EXPECT_TRUE(this->list.SortInto(new LiveObject(4, 99), true));
+    this->ExpectKeys({-1, 2, -1, -1, 4, -1, 4, 4, 6, -1});
+    EXPECT_EQ(this->list.GetPData(7)->tag, 99) << "behind the last equal one";
+    EXPECT_FALSE(this->list.SortInto(nullptr, true));
+    TypeParam empties(3);
+    EXPECT_FALSE(empties.BFindDataTo(LiveObject(1), 0, -1));
+    EXPECT_EQ(empties.GetCur(), 0);
+}
+
+TYPED_TEST(AnyPointerList, CopyingFromOtherSequencesFreesTheOldObjectsFirst) {
+    LiveObject first(1);
+    QnDynArray<LiveObject*> borrowed;
+    borrowed << &first << nullptr;
+    const QnArray<LiveObject*> exact(borrowed);
+    Fill(this->list, {7, 8, 9});
+    this->list.DeepCopy(borrowed);
+    EXPECT_EQ(this->m_scope.Count(), 1);
+    this->ExpectKeys({1, -1});
+    EXPECT_EQ(this->list.TakeOffHead(), &first) << "the pointer itself";
+    this->list.Append(new LiveObject(5));
+    this->list.DeepCopy(exact);
+    EXPECT_EQ(this->m_scope.Count(), 1);
+    EXPECT_EQ(this->list.TakeOffHead(), &first);
+}
+
 TYPED_TEST(AnyPointerList, ComparisonLooksAtObjectsAndEmptyEntries) {
     TypeParam other;
     Fill(this->list, {1, -1, 2});

@@ -363,6 +363,34 @@ TYPED_TEST(AnySequence, LeftRightAndMidFillAnyKindOfSequence) {
     }
 }
 
+TYPED_TEST(AnySequence, PartsBeyondTheEndsAreCutToWhatIsThere) {
+    Fill(this->Base(), {0, 1, 2});
+    QnDynArray<int> out;
+    this->seq.Left(9, out);
+    EXPECT_EQ(Items<int>(out), (Ints{0, 1, 2}));
+    this->seq.Right(9, out);
+    EXPECT_EQ(Items<int>(out), (Ints{0, 1, 2}));
+    this->seq.Mid(1, -1, out);
+    EXPECT_EQ(Items<int>(out), (Ints{1, 2}));
+    this->seq.Mid(2, 1, out);
+    EXPECT_TRUE(out.IsEmpty());
+    this->seq.Left(-1, out);
+    EXPECT_TRUE(out.IsEmpty());
+    this->seq.Mid(3, -1, out);
+    EXPECT_TRUE(out.IsEmpty());
+}
+
+TYPED_TEST(AnySequence, ASequenceMayBecomeAPartOfItself) {
+    Fill(this->Base(), {0, 1, 2, 3, 4});
+    this->seq.Mid(1, 4, this->seq);
+    EXPECT_EQ(Items(this->Base()), (Ints{1, 2, 3, 4}));
+    this->seq.Right(3, this->seq);
+    EXPECT_EQ(Items(this->Base()), (Ints{2, 3, 4}));
+    this->seq.Left(2, this->seq);
+    EXPECT_EQ(Items(this->Base()), (Ints{2, 3}));
+    EXPECT_TRUE(this->seq.IsOut());
+}
+
 TYPED_TEST(AnySequence, AppendingItselfStopsAtTheOldLength) {
     Fill(this->Base(), {1, 2, 3});
     const QnDynArrayBase<int>& self = this->seq;

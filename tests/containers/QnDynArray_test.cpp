@@ -244,6 +244,18 @@ TEST(QnDynArray, AttachTakesTheBlockAndDetachGivesItBack) {
     }
 }
 
+TEST(QnDynArray, AttachingNothingLeavesAnEmptyArrayAndTheOwnBlockStays) {
+    QnDynArray<int> a = Filled({1, 2, 3});
+    a.Attach(2, const_cast<int*>(a.GetFirst()));
+    EXPECT_EQ(Items(a), (Ints{1, 2}));
+    EXPECT_EQ(a.GetSpaceSize(), 2);
+    a.Attach(5, nullptr);
+    EXPECT_EQ(a.GetLength(), 0);
+    EXPECT_EQ(a.GetSpaceSize(), 0);
+    EXPECT_EQ(a.Append(4), 0);
+    EXPECT_EQ(CheckArray(a), "");
+}
+
 TEST(QnDynArray, DetachedBlockOfAGrownArrayHoldsTheElements) {
     QnDynArray<int> a;
     for (int i = 0; i < 100; ++i) {

@@ -307,6 +307,66 @@ TEST_F(QnDynPArrayTest, SortIntoKeepsTheOrderOfArrivalAndRefusesRepeats) {
     EXPECT_EQ(a.GetCur(), 5);
 }
 
+TEST_F(QnDynPArrayTest, DeletingAPlaceGoesThroughReleaseCur) {
+    class Counting : public Array {
+    public:
+        int released = 0;
+        void ReleaseCur() override {
+            ++released;
+            QnDynPArray<LiveObject>::ReleaseCur();
+        }
+    };
+    Counting a;
+    Fill(a, {1, 2, 3, 4});
+    a.Release(1);
+    a.DelHead();
+    a.Del(7);
+    a.FindDataDel(LiveObject(4));
+    EXPECT_EQ(a.released, 3);
+    EXPECT_EQ(Keys(a), (Ints{-1, 3}));
+    EXPECT_EQ(m_scope.Count(), 1);
+}
+
+TEST_F(QnDynPArrayTest, CopiesOfOtherSequencesAreDeepToo) {
+    LiveObject first(1);
+    LiveObject second(2);
+    QnDynArray<LiveObject*> borrowed;
+    borrowed << &first << nullptr << &second;
+    QnArray<LiveObject*> exact(borrowed);
+    Array a;
+    Fill(a, {7, 8, 9, 9});
+    a.MoveTo(2);
+    a.DeepCopy(borrowed);
+    EXPECT_EQ(Keys(a), (Ints{1, -1, 2}));
+    EXPECT_NE(a.GetAt(0), &first);
+    EXPECT_TRUE(a.IsOut());
+    EXPECT_EQ(m_scope.Count(), 4);
+    exact.DelHead();
+    a.DeepCopy(exact);
+    EXPECT_EQ(Keys(a), (Ints{-1, 2}));
+    EXPECT_NE(a.GetAt(1), &second);
+    EXPECT_TRUE(a.IsOut());
+    EXPECT_EQ(m_scope.Count(), 3);
+}
+
+TEST_F(QnDynPArrayTest, SortedOperationsPassOverEmptyEntries) {
+    Array a;
+    Fill(a, {-1, 2, -1, -1, 4, -1, 4, 6, -1});
+    EXPECT_EQ(a.BFindData(LiveObject(2)), 1);
+    EXPECT_EQ(a.BFindData(LiveObject(6)), 7);
+    EXPECT_EQ(a.BFindData(LiveObject(3)), -1);
+    EXPECT_EQ(a.BFindData(LiveObject(1)), -1);
+    EXPECT_EQ(a.BFindData(LiveObject(2), 2, 5), -1);
+    EXPECT_TRUE(a.SortInto(new LiveObject(4, 99), true));
+    EXPECT_EQ(Keys(a), (Ints{-1, 2, -1, -1, 4, -1, 4, 4, 6, -1})) << "behind the last equal one";
+    EXPECT_EQ(a.GetAt(7)->tag, 99);
+    EXPECT_FALSE(a.SortInto(nullptr, true));
+    Array empties(3);
+    EXPECT_EQ(empties.BFindData(LiveObject(1)), -1);
+    EXPECT_FALSE(empties.BFindDataTo(LiveObject(1)));
+    EXPECT_EQ(empties.GetCur(), 0);
+}
+
 TEST_F(QnDynPArrayTest, AccessByIndexAndCursor) {
     Array a;
     Fill(a, {4, -1});
