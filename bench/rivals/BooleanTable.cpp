@@ -7,8 +7,8 @@
 //          2  Race       warm-up and rounds, each run followed by a check of its area
 //          3  AddRow     best times, and the best rival's over ours
 //          after that the growth of each over the two decades from 1,000 vertices on
-// Why so   A rival that needs long at one size is not asked at the next: its time there is estimated by its growth so
-//          far, at least in proportion to the vertices, and beyond LONGEST_RUN it gets a dash.
+// Why so   A rival that would need longer than LONGEST_RUN for one run gets a dash: its time is estimated from its growth
+//          so far, which is taken to steepen as it did before.
 
 #include <algorithm>
 #include <cmath>
@@ -88,6 +88,8 @@ public:
     bool IsGood() const { return m_isGood; }
 
 private:
+    using Sizes = std::map<long, std::vector<Score>>;
+
     std::vector<Score> MakeScores(long n) const {
         std::vector<Score> scores(m_engines.size());
         for (std::size_t i = 0; i < scores.size(); i++) {
@@ -96,19 +98,29 @@ private:
         return scores;
     }
 
+    /// The exponent of the growth up to the size that `to` stands for, from the size before it.
+    double GetGrowth(std::size_t i, Sizes::const_reverse_iterator to) const {
+        const auto from = std::next(to);
+        const double step = std::log(static_cast<double>(to->first) / static_cast<double>(from->first));
+        return std::log(to->second[i].best / from->second[i].best) / step;
+    }
+
     double EstimateTime(std::size_t i, long n) const {
         if (m_scores.empty()) {
             return 0.0;
         }
         const auto last = m_scores.rbegin();
-        const double ratio = static_cast<double>(n) / static_cast<double>(last->first);
-        double growth = 1.0;
-        if (m_scores.size() > 1) {
-            const auto before = std::next(last);
-            const double step = std::log(static_cast<double>(last->first) / static_cast<double>(before->first));
-            growth = std::max(growth, std::log(last->second[i].best / before->second[i].best) / step);
+        if (!last->second[i].HasTime()) {
+            return NEVER;
         }
-        return last->second[i].HasTime() ? last->second[i].best * std::pow(ratio, growth) : NEVER;
+        double growth = 1.0;
+        if (m_scores.size() > 2) {
+            const double lastGrowth = GetGrowth(i, last);
+            const double steeper = lastGrowth - GetGrowth(i, std::next(last));
+            growth = std::max(growth, lastGrowth + std::max(0.0, steeper));
+        }
+        const double ratio = static_cast<double>(n) / static_cast<double>(last->first);
+        return last->second[i].best * std::pow(ratio, growth);
     }
 
     double RunOnce(std::size_t i) {
@@ -150,7 +162,7 @@ private:
     OutlineKind m_kind;
     Operation m_operation;
     std::vector<double> m_areas;
-    std::map<long, std::vector<Score>> m_scores;
+    Sizes m_scores;
     bool m_isGood = true;
 };
 
@@ -196,6 +208,8 @@ bool RunBooleans(const Engines& engines, const Options& options) {
     }
     std::printf("## Booleans of two outlines of n vertices each\n\n");
     times.Print();
+    std::printf("\n-: one run would have taken more than about %.0f s, as far as the growth before tells.\n",
+                LONGEST_RUN);
     if (!options.isQuick) {
         std::printf("\nGrowth from %ld to %ld vertices:\n\n", GROWTH_FROM, GROWTH_TO);
         growths.Print();
