@@ -135,6 +135,12 @@ TEST(CircleIntersect2d, HugeRadiiGiveNumbers) {
     EXPECT_EQ(meeting.code, 2);
     EXPECT_TRUE(std::isfinite(meeting.q1.y));
     EXPECT_TRUE(std::isfinite(meeting.q2.y));
+    // here rounding puts the cosine above 1
+    const Meeting rounded = Meet(ORIGIN, 16216318173.0, QnGePoint(16422943149.999996, 0.0), 206624977.0);
+    EXPECT_EQ(rounded.code, 2);
+    EXPECT_NEAR(rounded.q1.x, 16216318173.0, 1e-4);
+    EXPECT_NEAR(rounded.q1.y, 0.0, 1e-4);
+    EXPECT_NEAR(rounded.q2.y, 0.0, 1e-4);
 }
 
 TEST(CircleIntersect2d, CodesFollowTheDistanceAndPointsLieOnBoth) {

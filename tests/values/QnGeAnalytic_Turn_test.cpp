@@ -83,6 +83,25 @@ TEST(GetPathType, KeptOddReversalIsNoLaw) {
     EXPECT_EQ(GetPathType(c, b, a), RIGHT);
 }
 
+TEST(GetPathType, ReversedPathsNeverTurnToTheSameSide) {
+    Random random(2514);
+    int bothTurn = 0;
+    for (int i = 0; i < PROPERTY_CASES; ++i) {
+        const double size = i % 2 == 0 ? 9.0 : 1e-5;  // every other case with legs near the tolerance
+        const QnGePoint a = random.PlanPoint(9.0);
+        const QnGePoint b = random.PlanPoint(9.0);
+        const QnGePoint c = b + random.PlanPoint(size);
+        const int there = GetPathType(a, b, c);
+        const int back = GetPathType(c, b, a);
+        if (there == STRAIGHT || back == STRAIGHT) {
+            continue;
+        }
+        ++bothTurn;
+        ASSERT_EQ(back, 1 - there) << PointText(a) << PointText(b) << PointText(c);
+    }
+    EXPECT_GT(bothTurn, PROPERTY_CASES / 2);
+}
+
 TEST(GetPathType, MirroringInTheXAxisExchangesLeftAndRight) {
     Random random(2501);
     for (int i = 0; i < PROPERTY_CASES; ++i) {

@@ -84,6 +84,7 @@ TEST(QnGeBaseCircle, TheCenterHasNoAngle) {
     double a = UNTOUCHED;
     EXPECT_FALSE(UNIT.GetPaFromPt(QnGePoint(0.0, 0.0, 9.0), a));
     EXPECT_FALSE(UNIT.GetPaFromPt(QnGePoint(1e-6, 0.0), a));
+    EXPECT_EQ(a, UNTOUCHED);
     EXPECT_TRUE(UNIT.GetPaFromPt(QnGePoint(1.0000001e-6, 0.0), a));
 }
 

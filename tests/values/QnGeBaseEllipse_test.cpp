@@ -58,6 +58,7 @@ TEST(QnGeBaseEllipse, EqualityUsesLengthAndAngleTolerances) {
     EXPECT_TRUE(FLAT != QnGeBaseEllipse(center, 4.0 + 2e-6, 2.0, 0.0));
     EXPECT_TRUE(FLAT != QnGeBaseEllipse(center, 4.0, 2.0 + 2e-6, 0.0));
     EXPECT_TRUE(FLAT != QnGeBaseEllipse(QnGePoint(1.0, 2.1, 3.0), 4.0, 2.0, 0.0));
+    EXPECT_TRUE(FLAT == QnGeBaseEllipse(QnGePoint(1.0 + 5e-7, 2.0, 50.0), 4.0, 2.0, 0.0));  // in the plan
 }
 
 TEST(QnGeBaseEllipse, PointsByEccentricAngle) {
@@ -87,6 +88,7 @@ TEST(QnGeBaseEllipse, ParameterOfAPointIsItsAngleLessTheRotation) {
 TEST(QnGeBaseEllipse, TheCenterHasNoParameter) {
     double a = UNTOUCHED;
     EXPECT_FALSE(FLAT.GetPaFromPt(QnGePoint(1.0, 2.0, 99.0), a));
+    EXPECT_EQ(a, UNTOUCHED);
 }
 
 TEST(QnGeBaseEllipse, CirclesInvertTheParameter) {

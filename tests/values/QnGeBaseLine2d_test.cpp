@@ -93,6 +93,10 @@ TEST(QnGeBaseLine2d, SettersReplaceTheParts) {
     EXPECT_TRUE(IsLine(line, QnGePoint(3.0, 4.0, 5.0), QnGePoint(1.0, 2.0)));
     line.SetPoint(QnGePoint(1.0, 1.0, 1.0), QnGePoint(2.0, 3.0, 4.0));
     EXPECT_TRUE(IsLine(line, QnGePoint(1.0, 1.0, 1.0), QnGePoint(1.0, 2.0, 3.0)));
+    line.SetPoint(QnGePoint(9.0, 9.0, 9.0), line.basePoint);
+    EXPECT_TRUE(IsLine(line, QnGePoint(9.0, 9.0, 9.0), QnGePoint(-8.0, -8.0, -8.0)));
+    line.SetPoint(line, QnGePoint(1.0, 1.0, 1.0));  // the direction as a point
+    EXPECT_TRUE(IsLine(line, QnGePoint(-8.0, -8.0, -8.0), QnGePoint(9.0, 9.0, 9.0)));
 }
 
 TEST(QnGeBaseLine2d, IsValidWithADirectionAboveTheTolerance) {
@@ -329,6 +333,15 @@ TEST(QnGeBaseLine2d, HitTestTellsTheSide) {
         EXPECT_EQ(Bits(TWO_ALONG_X.HitTest(QnGePoint(1.0, -1.0), normalized)), OUT);
         EXPECT_EQ(Bits(TWO_ALONG_X.HitTest(QnGePoint(-50.0, 0.0, 9.0), normalized)), ON);
         EXPECT_EQ(Bits(TWO_ALONG_X.HitTest(QnGePoint(-50.0, 1e-3), normalized)), IN);
+    }
+}
+
+TEST(QnGeBaseLine2d, HitTestTellsTheSideWithoutTolerance) {
+    const QnGeBaseLine2d unit(QnGeVector2d(1.0, 0.0), QnGePoint());
+    for (const bool normalized : {false, true}) {
+        // seen from the base the point is far less than a tolerance off the direction
+        EXPECT_EQ(Bits(unit.HitTest(QnGePoint(1e6, 1e-5), normalized)), IN);
+        EXPECT_EQ(Bits(unit.HitTest(QnGePoint(1e6, -1e-5), normalized)), OUT);
     }
 }
 

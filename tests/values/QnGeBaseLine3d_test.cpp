@@ -71,6 +71,10 @@ TEST(QnGeBaseLine3d, SettersReplaceTheParts) {
     EXPECT_TRUE(IsLine(line, QnGePoint(4.0, 5.0, 6.0), QnGePoint(1.0, 2.0, 3.0)));
     line.SetPoint(QnGePoint(1.0, 1.0, 1.0), QnGePoint(2.0, 3.0, 4.0));
     EXPECT_TRUE(IsLine(line, QnGePoint(1.0, 1.0, 1.0), QnGePoint(1.0, 2.0, 3.0)));
+    line.SetPoint(QnGePoint(9.0, 9.0, 9.0), line.basePoint);
+    EXPECT_TRUE(IsLine(line, QnGePoint(9.0, 9.0, 9.0), QnGePoint(-8.0, -8.0, -8.0)));
+    line.SetPoint(line, QnGePoint(1.0, 1.0, 1.0));  // the direction as a point
+    EXPECT_TRUE(IsLine(line, QnGePoint(-8.0, -8.0, -8.0), QnGePoint(9.0, 9.0, 9.0)));
 }
 
 TEST(QnGeBaseLine3d, TransformByTurnsTheDirectionAndMovesTheBase) {
@@ -148,6 +152,22 @@ TEST(QnGeBaseLine3d, IntersectionParametersCountInEachLinesOwnUnits) {
     EXPECT_TRUE(IsNear(p, QnGePoint(1.0, 0.0, 5.0)));
 }
 
+TEST(QnGeBaseLine3d, ShortVectorsMeetOnlyWhenNormalized) {
+    const QnGeBaseLine3d x = Along(1e-5, 0.0, 0.0, QnGePoint(0.0, 1.0, 0.0));
+    const QnGeBaseLine3d y = Along(0.0, 1e-5, 0.0, QnGePoint(1.0, 0.0, 0.0));
+    double t1 = UNTOUCHED;
+    double t2 = UNTOUCHED;
+    EXPECT_EQ(x.IntersectWith(y, t1, t2, true), 0);  // the raw determinant is 1e-10
+    EXPECT_EQ(t1, UNTOUCHED);
+    EXPECT_EQ(x.IntersectWith(y, t1, t2, false), 1);
+    EXPECT_NEAR(t1, 1e5, 1e-6);
+    EXPECT_NEAR(t2, 1e5, 1e-6);
+    const QnGeBaseLine3d unit = Along(0.0, 0.0, 1.0, QnGePoint(0.0, 1.0, -4.0));
+    EXPECT_EQ(unit.IntersectWith(Along(1.0, 0.0, 0.0, QnGePoint(7.0, 1.0, 0.0)), t1, t2, true), 1);
+    EXPECT_NEAR(t1, 4.0, 1e-12);
+    EXPECT_NEAR(t2, -7.0, 1e-12);
+}
+
 TEST(QnGeBaseLine3d, SkewParallelAndEqualLinesLeaveTheOutputs) {
     const QnGeBaseLine3d x = Along(1.0, 0.0, 0.0);
     const QnGeBaseLine3d skew = Along(0.0, 1.0, 0.0, QnGePoint(3.0, 5.0, 2.0));
@@ -223,6 +243,11 @@ TEST(QnGeBaseLine3d, NearestPointWithoutDirectionIsTheBase) {
     EXPECT_TRUE(IsExactly(q, 1.0, 2.0, 3.0));
 }
 
+TEST(QnGeBaseLine3d, KeptOddHitTestWithoutDirectionIsOnEverywhere) {
+    const QnGeBaseLine3d null(QnGeVector3d(), QnGePoint(1.0, 2.0, 3.0));
+    EXPECT_EQ(Bits(null.HitTest(QnGePoint(50.0, 60.0, 70.0), false)), ON);
+}
+
 TEST(QnGeBaseLine3d, HitTestIsByTheDistanceInSpace) {
     const QnGeBaseLine3d line = Along(2.0, 0.0, 0.0);
     for (const bool normalized : {false, true}) {
@@ -251,6 +276,11 @@ TEST(QnGeBaseLine3d, SameLineIsParallelAndThroughTheBase) {
     EXPECT_FALSE(line.IsSameLine(Along(-5.0, 0.0, 0.0, QnGePoint(9.0, 0.0, 0.0)), true, false));
     EXPECT_FALSE(line.IsSameLine(Along(5.0, 0.0, 0.0, QnGePoint(9.0, 0.0, 1.0)), false, false));
     EXPECT_FALSE(line.IsSameLine(Along(5.0, 0.0, 1.0, QnGePoint(9.0, 0.0, 0.0)), false, false));
+    const QnGeBaseLine3d unit = Along(0.0, 0.6, 0.8);
+    EXPECT_TRUE(unit.IsSameLine(Along(0.0, 0.6, 0.8, QnGePoint(0.0, 3.0, 4.0)), true, true));
+    EXPECT_TRUE(unit.IsSameLine(Along(0.0, -0.6, -0.8, QnGePoint(0.0, 3.0, 4.0)), false, true));
+    EXPECT_FALSE(unit.IsSameLine(Along(0.0, -0.6, -0.8, QnGePoint(0.0, 3.0, 4.0)), true, true));
+    EXPECT_FALSE(unit.IsSameLine(Along(0.0, 0.6, 0.8, QnGePoint(1.0, 3.0, 4.0)), true, true));
 }
 
 TEST(QnGeBaseLine3d, InOnePlaneUnlessSkew) {

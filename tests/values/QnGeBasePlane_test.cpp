@@ -119,6 +119,23 @@ TEST(QnGeBasePlane, TwoPlanesMeetInALine) {
     EXPECT_NEAR(line.basePoint.z, 2.0, 1e-15);
 }
 
+TEST(QnGeBasePlane, ShortNormalsMeetOnlyWhenNormalized) {
+    const QnGeBasePlane x = Plane(1e-5, 0.0, 0.0, -3e-5);
+    const QnGeBasePlane y = Plane(0.0, 1e-5, 0.0, -4e-5);
+    QnGeBaseLine3d line;
+    EXPECT_EQ(x.IntersectWith(y, line, true), 12);  // the raw determinant is 1e-10
+    EXPECT_EQ(x.IntersectWith(y, line, false), 10);
+    EXPECT_TRUE(IsNear(line.basePoint, QnGePoint(3.0, 4.0, 0.0)));
+    const QnGeBaseLine3d across(QnGeVector3d(1e-5, 0.0, 0.0), QnGePoint(1.0, 7.0, 7.0));
+    double t = UNTOUCHED;
+    QnGePoint p;
+    EXPECT_EQ(x.IntersectWith(across, t, true), 0);
+    EXPECT_EQ(t, UNTOUCHED);
+    EXPECT_EQ(x.IntersectWith(across, p, false), 1);
+    EXPECT_TRUE(IsNear(p, QnGePoint(3.0, 7.0, 7.0)));
+    EXPECT_TRUE(IsPlane(x, 1e-5, 0.0, 0.0, -3e-5));
+}
+
 TEST(QnGeBasePlane, TwoPlanesMeetOnBoth) {
     Random random(2411);
     for (int i = 0; i < PROPERTY_CASES; ++i) {

@@ -214,6 +214,29 @@ TEST(QnGeCoordSys, GetWcsIsTheWorldSeenFromHere) {
     EXPECT_TRUE(HasFrame(world, QnGePoint(-6.0, -7.0, -5.0), Z, X, Y));
 }
 
+TEST(QnGeCoordSys, MayBeItsOwnArgument) {
+    QnGeCoordSys cs(BASE, QnGeVector3d(Y), QnGeVector3d(Z), QnGeVector3d(X));
+    cs.Set(cs.origin, cs.zAxis, cs.xAxis, cs.yAxis);
+    EXPECT_TRUE(HasFrame(cs, BASE, X, Y, Z));
+    cs.Set(cs.origin, cs.yAxis, cs.zAxis, true);
+    EXPECT_TRUE(HasFrame(cs, BASE, Y, Z, X));
+    cs.GetWcs(cs);
+    EXPECT_TRUE(HasFrame(cs, QnGePoint(-6.0, -7.0, -5.0), Z, X, Y));
+}
+
+TEST(QnGeCoordSys, SetFromANullZAxisHasNoAxes) {
+    const QnGeCoordSys cs(BASE, QnGeVector3d(), true);
+    EXPECT_TRUE(HasFrame(cs, BASE, ORIGIN, ORIGIN, ORIGIN, 0.0));
+    EXPECT_FALSE(cs.IsValid());
+}
+
+TEST(QnGeCoordSys, MatrixFromOfASystemWithoutInverseIsMatrixTo) {
+    const QnGeCoordSys flat(BASE, QnGeVector3d(X), QnGeVector3d(Y), QnGeVector3d(X));
+    QnGePoint p(1.0, 2.0, 3.0);
+    flat.TransToWcs(p);
+    EXPECT_TRUE(IsNear(p, QnGePoint(9.0, 8.0, 7.0)));
+}
+
 TEST(QnGeCoordSys, CoordinatePlanesPassThroughTheOrigin) {
     const QnGeCoordSys cs(BASE, QnGeVector3d(X), QnGeVector3d(Y), QnGeVector3d(Z));
     QnGeBasePlane plane;

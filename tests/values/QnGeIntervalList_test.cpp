@@ -287,6 +287,36 @@ TEST(QnGeIntervalList, SubtractingTheWholeEmptiesTheList) {
     EXPECT_TRUE(Holds(list, {}));
 }
 
+TEST(QnGeIntervalList, SubtractingTakesSeveralWholeIntervals) {
+    QnGeIntervalList list = Make({{0.0, 1.0}, {2.0, 3.0}, {4.0, 5.0}});
+    list -= QnGeInterval(0.0, 3.0);
+    EXPECT_TRUE(Holds(list, {{4.0, 5.0}}));
+    list -= QnGeInterval(3.5, 5.5);
+    EXPECT_TRUE(Holds(list, {}));
+}
+
+TEST(QnGeIntervalList, ElementsOfTheListMayBeArguments) {
+    QnGeIntervalList list = Make({{0.0, 1.0}, {2.0, 3.0}});
+    list += *list.GetFirst();
+    EXPECT_TRUE(Holds(list, {{0.0, 1.0}, {2.0, 3.0}}));
+    list -= *list.GetFirst();
+    EXPECT_TRUE(Holds(list, {{2.0, 3.0}}));
+}
+
+TEST(QnGeIntervalList, WithoutAPeriodOnlyTheFirstPartOfAReversedIntervalIsLeft) {
+    QnGeIntervalList list;
+    list += QnGeInterval(8.0, 2.0);
+    EXPECT_TRUE(Holds(list, {{0.0, 2.0}}));
+}
+
+TEST(QnGeIntervalList, ANegativePeriodEnds) {
+    QnGeIntervalList list(-5.0);
+    list += QnGeInterval(8.0, 2.0);
+    EXPECT_TRUE(Holds(list, {{0.0, 2.0}}));
+    list -= QnGeInterval(8.0, 1.0);
+    EXPECT_TRUE(Holds(list, {{1.0, 2.0}}));
+}
+
 TEST(QnGeIntervalList, SubtractingCutsEndsAndSwallowsWhatLiesBetween) {
     QnGeIntervalList list = Make({{0.0, 2.0}, {3.0, 4.0}, {5.0, 7.0}, {8.0, 9.0}});
     list -= QnGeInterval(1.0, 6.0);

@@ -61,7 +61,47 @@ TEST(QnGePointList, ConstructorsMakeAndCopyPoints) {
     ASSERT_EQ(array.GetLength(), 2);
     EXPECT_TRUE(IsExactly(array.GetAt(1), 4.0, 5.0, 6.0));
     const QnGePointList back(array);
-    EXPECT_EQ(back.GetLength(), 2);
+    ASSERT_EQ(back.GetLength(), 2);
+    EXPECT_TRUE(IsExactly(back.GetAt(0), 1.0, 2.0, 3.0));
+    EXPECT_TRUE(IsExactly(back.GetAt(1), 4.0, 5.0, 6.0));
+    EXPECT_EQ(QnGePointList().GetLength(), 0);
+}
+
+TEST(QnGePointArray, ConstructorsMakeAndCopyPoints) {
+    EXPECT_EQ(QnGePointArray().GetLength(), 0);
+    const QnGePointArray three(3, 2);
+    ASSERT_EQ(three.GetLength(), 3);
+    EXPECT_TRUE(IsExactly(three.GetAt(2), 0.0, 0.0, 0.0));
+    QnGePointArray array;
+    FillWithTwo(array);
+    QnGePointArray copy(array);
+    copy[0] = QnGePoint(9.0, 9.0, 9.0);
+    EXPECT_TRUE(IsExactly(array.GetAt(0), 1.0, 2.0, 3.0));
+    EXPECT_TRUE(IsExactly(copy.GetAt(1), 4.0, 5.0, 6.0));
+    QnGePointArray assigned(7);
+    assigned = array;
+    ASSERT_EQ(assigned.GetLength(), 2);
+    assigned[1] = QnGePoint(9.0, 9.0, 9.0);
+    EXPECT_TRUE(IsExactly(array.GetAt(1), 4.0, 5.0, 6.0));
+}
+
+TEST(QnGePointList, AssignsPoints) {
+    QnGePointList list;
+    FillWithTwo(list);
+    QnGePointList assigned(7);
+    assigned = list;
+    ASSERT_EQ(assigned.GetLength(), 2);
+    assigned[1] = QnGePoint(9.0, 9.0, 9.0);
+    EXPECT_TRUE(IsExactly(list.GetAt(1), 4.0, 5.0, 6.0));
+}
+
+TEST(QnGePointList, TransformingNoPointsIsNothing) {
+    QnGePointList list;
+    list.TransformBy(MoveByTenAndBack());
+    EXPECT_EQ(list.GetLength(), 0);
+    QnGePointArray array;
+    array.TransformBy(MoveByTenAndBack());
+    EXPECT_EQ(array.GetLength(), 0);
 }
 
 TEST(QnGePointList, FindsPointsUnderTheTolerance) {
