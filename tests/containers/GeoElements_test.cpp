@@ -50,7 +50,16 @@ class PointSequence : public ::testing::Test {};
 
 using PointSequences = ::testing::Types<QnGePointArray, QnGePointList, QnDynArray<QnGePoint>, QnList<QnGePoint>,
                                         QnDList<QnGePoint>, GroupedList<QnGePoint, 2>>;
-TYPED_TEST_SUITE(PointSequence, PointSequences);
+
+struct PointSequenceNames {
+    template <class Points>
+    static std::string GetName(int i) {
+        static const char* const names[] = {"QnGePointArray", "QnGePointList", "QnDynArray",
+                                            "QnList",         "QnDList",       "QnXList"};
+        return names[i];
+    }
+};
+TYPED_TEST_SUITE(PointSequence, PointSequences, PointSequenceNames);
 
 TYPED_TEST(PointSequence, EqualPointsAreNoFurtherApartThanTheToleranceInSpace) {
     TypeParam points;
@@ -113,7 +122,15 @@ class ObjectSequence : public ::testing::Test {};
 
 using ObjectSequences =
     ::testing::Types<QnPDList<QnGeObject>, QnGeObjList, GroupedPList<QnGeObject, 2>, QnDynPArray<QnGeObject>>;
-TYPED_TEST_SUITE(ObjectSequence, ObjectSequences);
+
+struct ObjectSequenceNames {
+    template <class Owner>
+    static std::string GetName(int i) {
+        static const char* const names[] = {"QnPDList", "QnGeObjList", "QnPXList", "QnDynPArray"};
+        return names[i];
+    }
+};
+TYPED_TEST_SUITE(ObjectSequence, ObjectSequences, ObjectSequenceNames);
 
 TYPED_TEST(ObjectSequence, SortedOperationsGoByTheClassIdAndNotByTheFlagWord) {
     TypeParam owner;
