@@ -206,7 +206,7 @@ bool RunBooleans(const Engines& engines, const Options& options) {
             isGood = isGood && one.IsGood();
         }
     }
-    std::printf("## Booleans of two outlines of n vertices each\n\n");
+    std::printf("### Booleans of two outlines of n vertices each\n\n");
     times.Print();
     std::printf("\n-: one run would have taken more than about %.0f s, as far as the growth before tells.\n",
                 LONGEST_RUN);

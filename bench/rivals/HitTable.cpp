@@ -102,7 +102,7 @@ bool RunHits(const Engines& engines, const Options& options) {
             isGood = isGood && race.IsAgreed() && (n < LEAD_FROM || lead > 1.0);
         }
     }
-    std::printf("## Hit tests: time for one point against an outline of n vertices\n\n");
+    std::printf("### Hit tests: time for one point against an outline of n vertices\n\n");
     table.Print();
     std::printf("\nAnswers agree, ahead of every rival's plain form from %ld vertices on: %s.\n\n", LEAD_FROM,
                 isGood ? "yes" : "NO");

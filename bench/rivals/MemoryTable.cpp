@@ -119,7 +119,7 @@ bool RunMemory(const Options& options) {
         isGood = isGood && growth >= 0.0 && bytesEach <= MOST_BYTES_EACH;
     }
     const double polygonEach = GetPolygonBytesEach();
-    std::printf("## Memory: resident at the peak of one union, beyond the two polygons\n\n");
+    std::printf("### Memory: resident at the peak of one union, beyond the two polygons\n\n");
     table.Print();
     std::printf("\nA polygon holds %.1f bytes a vertex.\n", polygonEach);
     isGood = isGood && polygonEach < POINT_BYTES + 0.1;
