@@ -79,6 +79,7 @@ TEST(QnGeGeneralPolygon2d, HoleIsTheNextBoundary) {
     EXPECT_EQ(&holed.Hole(0), holed.GetBoundary(1));
     EXPECT_EQ(&holed.Hole(1), holed.GetBoundary(2));
     ExpectPoint(holed.Hole(1).GetVertex(0), "5,5");
+    EXPECT_EQ(holed.GetBoundary(3), nullptr);
 }
 
 TEST(QnGeGeneralPolygon2d, DeletesHolesOneByOneOrAll) {

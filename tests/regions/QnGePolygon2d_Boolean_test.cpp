@@ -159,6 +159,11 @@ TEST(QnGePolygon2dUnion, OfRingsWithoutAnOuterOneIsNull) {
     EXPECT_EQ(std::unique_ptr<QnGeRegion2d>(complement.Union(Polygon("4,-1 6,-1 6,2 4,2"))), nullptr);
 }
 
+TEST(QnGePolygon2dUnion, ASecondOuterRingAbandonsTheResult) {
+    // The first one crosses itself, so that two rings run counter-clockwise from the vertex that it shares.
+    EXPECT_EQ(Unite("3,4 1,5 4,1 4,5 5,4", "4,1 1,3 3,0"), nullptr);
+}
+
 // ---- points ----------------------------------------------------------------------------------------
 
 TEST(QnGePolygon2dInter, CrossingsLieOnTheFirstPolygonInSpaceToo) {

@@ -183,11 +183,13 @@ inline ::testing::AssertionResult IsRegion(const QnGeRegion2d* region, const std
 // ---- structure -------------------------------------------------------------------------------------
 
 inline bool DoCross(const QnGePoint& a, const QnGePoint& b, const QnGePoint& c, const QnGePoint& d) {
-    const auto turn = [](const QnGePoint& p, const QnGePoint& q, const QnGePoint& r) {
-        return (static_cast<long double>(q.x) - p.x) * (static_cast<long double>(r.y) - p.y) -
-               (static_cast<long double>(q.y) - p.y) * (static_cast<long double>(r.x) - p.x);
-    };
-    return turn(a, b, c) * turn(a, b, d) < 0 && turn(c, d, a) * turn(c, d, b) < 0;
+    using exact_area::Spot;
+    using exact_area::Turn;
+    const Spot p(a);
+    const Spot q(b);
+    const Spot r(c);
+    const Spot s(d);
+    return Turn(p, q, r) * Turn(p, q, s) < 0 && Turn(r, s, p) * Turn(r, s, q) < 0;
 }
 
 /// Whether two edges cross each other inside both; touching does not count.

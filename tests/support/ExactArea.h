@@ -19,6 +19,20 @@ using Ring = std::vector<QnGePoint>;
 using Rings = std::vector<Ring>;
 using Real = long double;
 
+/// A point of the plan in long double.
+struct Spot {
+    Real x = 0;
+    Real y = 0;
+
+    Spot(Real px, Real py) : x(px), y(py) {}
+    explicit Spot(const QnGePoint& p) : x(static_cast<Real>(p.x)), y(static_cast<Real>(p.y)) {}
+};
+
+/// Twice the area of the triangle pqr, above 0 if it turns left.
+inline Real Turn(const Spot& p, const Spot& q, const Spot& r) {
+    return (q.x - p.x) * (r.y - p.y) - (q.y - p.y) * (r.x - p.x);
+}
+
 struct Areas {
     Real a = 0;      ///< area of the first set
     Real b = 0;      ///< area of the second set
@@ -43,8 +57,8 @@ struct SlabEdge {
 inline void CollectEdges(const Rings& rings, int owner, std::vector<SlabEdge>& edges, std::vector<Real>& breaks) {
     for (const Ring& ring : rings) {
         for (std::size_t i = 0; i < ring.size(); ++i) {
-            const QnGePoint& p = ring[i];
-            const QnGePoint& q = ring[(i + 1) % ring.size()];
+            const Spot p(ring[i]);
+            const Spot q(ring[(i + 1) % ring.size()]);
             breaks.push_back(p.x);
             if (p.x < q.x) {
                 edges.push_back({p.x, p.y, q.x, q.y, 1, owner});
@@ -119,12 +133,12 @@ inline Areas Measure(const Ring& a, const Ring& b) {
 
 // ---- areas at the sides of a line ------------------------------------------------------------------
 
-inline Real SignedArea(const std::vector<std::pair<Real, Real>>& ring) {
+inline Real SignedArea(const std::vector<Spot>& ring) {
     Real sum = 0;
     for (std::size_t i = 0; i < ring.size(); ++i) {
-        const auto& p = ring[i];
-        const auto& q = ring[(i + 1) % ring.size()];
-        sum += p.first * q.second - q.first * p.second;
+        const Spot& p = ring[i];
+        const Spot& q = ring[(i + 1) % ring.size()];
+        sum += p.x * q.y - q.x * p.y;
     }
     return sum / 2;
 }
@@ -132,21 +146,21 @@ inline Real SignedArea(const std::vector<std::pair<Real, Real>>& ring) {
 /// The area of a counter-clockwise ring at the left of the line through `base` along `direction`: clipping by the half
 /// plane. Pieces that a concave ring falls into stay joined along the line, which adds no area.
 inline Real AreaAtLeft(const Ring& ring, const QnGePoint& base, const QnGePoint& direction) {
-    const auto side = [&](const QnGePoint& p) {
-        return Real(direction.x) * (Real(p.y) - base.y) - Real(direction.y) * (Real(p.x) - base.x);
-    };
-    std::vector<std::pair<Real, Real>> clipped;
+    const Spot from(base);
+    const Spot along(direction);
+    const auto side = [&](const Spot& p) { return along.x * (p.y - from.y) - along.y * (p.x - from.x); };
+    std::vector<Spot> clipped;
     for (std::size_t i = 0; i < ring.size(); ++i) {
-        const QnGePoint& p = ring[i];
-        const QnGePoint& q = ring[(i + 1) % ring.size()];
+        const Spot p(ring[i]);
+        const Spot q(ring[(i + 1) % ring.size()]);
         const Real sp = side(p);
         const Real sq = side(q);
         if (sp >= 0) {
-            clipped.emplace_back(p.x, p.y);
+            clipped.push_back(p);
         }
         if ((sp > 0 && sq < 0) || (sp < 0 && sq > 0)) {
             const Real t = sp / (sp - sq);
-            clipped.emplace_back(p.x + t * (Real(q.x) - p.x), p.y + t * (Real(q.y) - p.y));
+            clipped.emplace_back(p.x + t * (q.x - p.x), p.y + t * (q.y - p.y));
         }
     }
     return SignedArea(clipped);
@@ -156,15 +170,15 @@ inline Real AreaAtLeft(const Ring& ring, const QnGePoint& base, const QnGePoint&
 
 /// How often the rings run round the point, counter-clockwise counted up. The point must not lie on a ring.
 inline int WindingNumber(const Rings& rings, const QnGePoint& point) {
+    const Spot at(point);
     int winding = 0;
     for (const Ring& ring : rings) {
         for (std::size_t i = 0; i < ring.size(); ++i) {
-            const QnGePoint& p = ring[i];
-            const QnGePoint& q = ring[(i + 1) % ring.size()];
-            const Real turn = (Real(q.x) - p.x) * (Real(point.y) - p.y) - (Real(q.y) - p.y) * (Real(point.x) - p.x);
-            if (p.y <= point.y && q.y > point.y && turn > 0) {
+            const Spot p(ring[i]);
+            const Spot q(ring[(i + 1) % ring.size()]);
+            if (p.y <= at.y && q.y > at.y && Turn(p, q, at) > 0) {
                 ++winding;
-            } else if (p.y > point.y && q.y <= point.y && turn < 0) {
+            } else if (p.y > at.y && q.y <= at.y && Turn(p, q, at) < 0) {
                 --winding;
             }
         }
@@ -174,17 +188,18 @@ inline int WindingNumber(const Rings& rings, const QnGePoint& point) {
 
 /// The distance of the point from the nearest ring.
 inline double DistanceToRings(const Rings& rings, const QnGePoint& point) {
+    const Spot at(point);
     Real best = HUGE_VALL;
     for (const Ring& ring : rings) {
         for (std::size_t i = 0; i < ring.size(); ++i) {
-            const QnGePoint& p = ring[i];
-            const QnGePoint& q = ring[(i + 1) % ring.size()];
-            const Real dx = Real(q.x) - p.x;
-            const Real dy = Real(q.y) - p.y;
+            const Spot p(ring[i]);
+            const Spot q(ring[(i + 1) % ring.size()]);
+            const Real dx = q.x - p.x;
+            const Real dy = q.y - p.y;
             const Real length2 = dx * dx + dy * dy;
-            Real t = length2 == 0 ? 0 : ((Real(point.x) - p.x) * dx + (Real(point.y) - p.y) * dy) / length2;
+            Real t = length2 > 0 ? ((at.x - p.x) * dx + (at.y - p.y) * dy) / length2 : 0;
             t = std::min<Real>(1, std::max<Real>(0, t));
-            best = std::min(best, std::hypot(p.x + t * dx - point.x, p.y + t * dy - point.y));
+            best = std::min(best, std::hypot(p.x + t * dx - at.x, p.y + t * dy - at.y));
         }
     }
     return static_cast<double>(best);
@@ -192,13 +207,13 @@ inline double DistanceToRings(const Rings& rings, const QnGePoint& point) {
 
 /// Whether the point lies on the ring; exact for small whole numbers and halves.
 inline bool IsOnRing(const Ring& ring, const QnGePoint& point) {
+    const Spot at(point);
     for (std::size_t i = 0; i < ring.size(); ++i) {
-        const QnGePoint& p = ring[i];
-        const QnGePoint& q = ring[(i + 1) % ring.size()];
-        const Real turn = (Real(q.x) - p.x) * (Real(point.y) - p.y) - (Real(q.y) - p.y) * (Real(point.x) - p.x);
-        const bool inBox = std::min(p.x, q.x) <= point.x && point.x <= std::max(p.x, q.x) &&
-                           std::min(p.y, q.y) <= point.y && point.y <= std::max(p.y, q.y);
-        if (turn == 0 && inBox) {
+        const Spot p(ring[i]);
+        const Spot q(ring[(i + 1) % ring.size()]);
+        const bool inBox = std::min(p.x, q.x) <= at.x && at.x <= std::max(p.x, q.x) && std::min(p.y, q.y) <= at.y &&
+                           at.y <= std::max(p.y, q.y);
+        if (inBox && Turn(p, q, at) == 0) {
             return true;
         }
     }
