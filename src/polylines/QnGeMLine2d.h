@@ -67,7 +67,7 @@ public:
     /// the line and its crossings with itself do not matter.
     ///
     /// Tolerance  g_distZero for lying on a segment, g_fZero for crossings at vertices.
-    /// See        QnGeMLine2d_HitTest.cpp
+    /// See        docs/algorithms/hit-test.md
     QnBitData HitTest(const QnGePoint& point) const override;
 
     /// The HitTest value; `sub` tells where: index + 1 of the vertex that is hit, -(index + 1) of the segment, else 0.

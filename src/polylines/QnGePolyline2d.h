@@ -69,7 +69,7 @@ public:
     /// As the multi-line's, with crossings of arcs by their points.
     ///
     /// Tolerance  g_distZero for lying on a segment and for crossings at the ends of arcs, g_fZero for those of chords.
-    /// See        QnGePolyline2d_HitTest.cpp
+    /// See        docs/algorithms/hit-test.md
     QnBitData HitTest(const QnGePoint& point) const override;
     QnBitData SubHitTest(const QnGePoint& point, int& sub) const override;
 

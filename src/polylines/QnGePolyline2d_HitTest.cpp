@@ -2,7 +2,7 @@
 //
 // QnGePolyline2d_HitTest.cpp: inside, outside or on a closed polyline.
 //
-// The test of QnGeMLine2d_HitTest.cpp with arcs among the edges. An arc is met by the ray in up to two points. A
+// The test of detail/ClosedHitTest.cpp with arcs among the edges. An arc is met by the ray in up to two points. A
 // crossing at the end of an edge, chord or arc, counts if the boundary goes on as it came: it is crossed if it came
 // from above the ray and does not rise after it, or came from below and rises.
 //
@@ -11,8 +11,9 @@
 //      p -------+-----------+------- ...       where two arcs meet, leaves the parity as it is.
 //              v1           v2
 //
-// Phases     1  each edge by itself: TestChord, TestArc
-//            2  at an end vertex: did it come from above, and does RisesAfter say that it rises
+// Phases     1  each edge by itself: TestChordEdge, TestArcEdge
+//            2  at an end vertex: did it come from above, and does GetCourseAfter say that it goes on down, or up if it
+//               came from below
 //            3  parity
 // Order      Free, as for multi-lines.
 // Kept odd   Ends of chords are windows of g_fZero in the parameter, ends of arcs of g_distZero in length: where a

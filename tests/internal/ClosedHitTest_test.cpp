@@ -7,6 +7,8 @@
 
 #include <cmath>
 
+#include "frame/QnGeTolerance.h"
+#include "frame/QnPushVar.h"
 #include "polylines/detail/OutlineIndex.h"
 #include "support/PolygonPairs.h"
 
@@ -83,6 +85,35 @@ TEST(ClosedHitTest, AnIndexOverCoordinatesThatAreNoNumbersChangesNoAnswer) {
         const QnGeMLine2d line = MakeOutline(ring);
         OutlineIndex index(line, ring[0]);
         ASSERT_EQ(ClosedHitTest(line, point).Run().GetBits(), ClosedHitTest(line, point).RunWith(index).GetBits());
+    }
+}
+
+TEST(ClosedHitTest, AnIndexUnderOtherTolerancesChangesNoAnswer) {
+    struct {
+        double parameter;
+        double length;
+    } const tolerances[] = {{-1e-9, 1e-6}, {0.0, 1e-6},  {1e-300, 1e-6}, {1e-60, 1e-6}, {1e-40, 1e-6}, {1e-12, 1e-9},
+                            {1e-6, 1e-3},  {1e-3, 1e-1}, {1e-9, 1e30},   {1e-9, 1e39},  {1e-9, 1e300}, {1e-9, 0.0}};
+    for (const auto& tolerance : tolerances) {
+        const QnPushVar<double> parameter(g_fZero, tolerance.parameter);
+        const QnPushVar<double> length(g_distZero, tolerance.length);
+        for (unsigned i = 0; i < 300; ++i) {
+            RandomSource random(BaseSeed() + i);
+            const polygon_pairs::Pair pair =
+                polygon_pairs::Make(random, static_cast<int>(i) % polygon_pairs::KIND_COUNT);
+            if (pair.a.empty()) {
+                continue;
+            }
+            const QnGeMLine2d line = MakeOutline(pair.a);
+            OutlineIndex index(line, pair.a[0]);
+            for (int k = 0; k < 10; ++k) {
+                const QnGePoint point = AnyPoint(random, pair.a);
+                ASSERT_EQ(ClosedHitTest(line, point).Run().GetBits(),
+                          ClosedHitTest(line, point).RunWith(index).GetBits())
+                    << pair.kind << ", tolerances " << tolerance.parameter << " and " << tolerance.length << ", seed "
+                    << BaseSeed() + i << ", point " << point.x << ", " << point.y;
+            }
+        }
     }
 }
 

@@ -167,7 +167,7 @@ TEST(CrossingGraph, EqualsThePlainGraphOnOpenOutlines) {
 }
 
 TEST(CrossingGraph, EqualsThePlainGraphUnderOtherTolerances) {
-    for (const double tolerance : {0.0, 1e-12, 1e-6, 1e-3}) {
+    for (const double tolerance : {0.0, 1e-300, 1e-60, 1e-40, 1e-12, 1e-6, 1e-3}) {
         const QnPushVar<double> push(g_fZero, tolerance);
         for (unsigned i = 0; i < 500; ++i) {
             RandomSource random(BaseSeed() + i);
@@ -189,6 +189,18 @@ TEST(CrossingGraph, EqualsThePlainGraphOnCoordinatesThatAreNoNumbers) {
             (random.Coin() ? point.x : point.y) = bad[random.Int(0, 4)];
         }
         ASSERT_EQ(Compare(pair.a, pair.b, true), "") << pair.kind << '\n' << ToText(pair.a) << ToText(pair.b);
+    }
+}
+
+TEST(CrossingGraph, EqualsThePlainGraphUnderHugeTolerancesOfLength) {
+    for (const double tolerance : {1e3, 1e30, 1e39, 1e300, HUGE_VAL}) {
+        const QnPushVar<double> push(g_distZero, tolerance);
+        for (unsigned i = 0; i < 200; ++i) {
+            RandomSource random(BaseSeed() + i);
+            const polygon_pairs::Pair pair = polygon_pairs::Make(random, random.Int(0, polygon_pairs::KIND_COUNT - 1));
+            ASSERT_EQ(Compare(pair.a, pair.b, true), "") << pair.kind << ", g_distZero " << tolerance << '\n'
+                                                         << ToText(pair.a) << ToText(pair.b);
+        }
     }
 }
 

@@ -91,7 +91,7 @@ QnBitData ClosedHitTest::RunWith(OutlineIndex& index) const {
                         (static_cast<double>(hull.y1) - static_cast<double>(hull.y0));
     const double bandHalf = GetBandHalf(span);
     const double margin = std::max(GetMargin(3.0 * span), bandHalf) + FLOAT_ROUNDING * span;
-    if (!std::isfinite(margin) || !std::isfinite(at.x0) || !std::isfinite(at.y0)) {
+    if (!OutlineIndex::CanWiden(margin) || !std::isfinite(at.x0) || !std::isfinite(at.y0)) {
         return Run();
     }
     FloatBox box = at.Widened(static_cast<float>(margin));

@@ -51,6 +51,10 @@ OutlineIndex::OutlineIndex(const QnGeMLine2d& outline, const QnGePoint& centre)
     }
 }
 
+bool OutlineIndex::CanWiden(double margin) {
+    return margin <= FLOAT_COORDINATE_LIMIT;
+}
+
 // Rounding is monotone: the float hull of a block is the hull of its vertices, rounded once.
 FloatBox OutlineIndex::GetBlockBox(long block) {
     const long first = block * LANES;

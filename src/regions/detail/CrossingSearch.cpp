@@ -68,17 +68,15 @@ void CrossingSearch::Run(PodArray<EdgeCrossing>& crossings) {
     m_found = &crossings;
     const double span = GetSpan();
     const double margin = GetMargin(span);
-    if (!(m_fZero > 0.0) || !std::isfinite(margin) || !m_first.IsUsable() || !m_second.IsUsable()) {
+    if (!(m_fZero > 0.0) || !OutlineIndex::CanWiden(margin) || !m_first.IsUsable() || !m_second.IsUsable()) {
         TestAllPairs();
         return;
     }
     m_margin = static_cast<float>(2.0 * margin);  // one box is widened for both
     m_clearance = static_cast<float>(SIDE_CLEARANCE * span * (1.0 + SIDE_CLEARANCE_OF_TOLERANCE * m_fZero));
-    const int groupLevel = std::min(2, m_first.GetTopLevel() + 1);
-    const long blocksInGroup = groupLevel == 2 ? LANES : 1;
-    const long groups = (m_first.GetBlockNum() - 1) / blocksInGroup + 1;
+    const long groups = (m_first.GetBlockNum() - 1) / LANES + 1;
     for (long group = 0; group < groups; ++group) {
-        SearchGroup(group, groupLevel);
+        SearchGroup(group);
     }
 }
 
@@ -103,28 +101,28 @@ void CrossingSearch::TestAllPairs() {
     }
 }
 
-// The box of 8 blocks (level 2) or of one block (level 1) of the first outline.
-FloatBox CrossingSearch::GetBox(int level, long index) const {
-    if (level <= m_first.GetTopLevel()) {
-        return m_first.GetLanes(level, index / LANES).GetBox(static_cast<int>(index % LANES));
-    }
-    FloatBox hull = m_first.GetLanes(level - 1, 0).GetBox(0);
-    for (int lane = 1; lane < LANES; ++lane) {
-        hull = hull.With(m_first.GetLanes(level - 1, 0).GetBox(lane));
-    }
-    return hull;
+// The box of a block of the first outline.
+FloatBox CrossingSearch::GetBlockBox(long block) const {
+    return m_first.GetLanes(1, block / LANES).GetBox(static_cast<int>(block % LANES));
 }
 
-void CrossingSearch::SearchGroup(long group, int level) {
+// The box of a group of eight blocks of the first outline. An outline of a single group has no level above its blocks.
+FloatBox CrossingSearch::GetGroupBox(long group) const {
+    if (m_first.GetTopLevel() == 1) {
+        return m_first.GetHull();
+    }
+    return m_first.GetLanes(2, group / LANES).GetBox(static_cast<int>(group % LANES));
+}
+
+void CrossingSearch::SearchGroup(long group) {
     m_near.Clear();
-    Descend(m_second.GetTopLevel(), 0, GetBox(level, group).Widened(m_margin));
+    Descend(m_second.GetTopLevel(), 0, GetGroupBox(group).Widened(m_margin));
     if (m_near.IsEmpty()) {
         return;
     }
-    const long blocksInGroup = level == 2 ? LANES : 1;
-    const long end = std::min((group + 1) * blocksInGroup, m_first.GetBlockNum());
-    for (long block = group * blocksInGroup; block < end; ++block) {
-        SearchBlock(block, GetBox(1, block).Widened(m_margin));
+    const long end = std::min((group + 1) * LANES, m_first.GetBlockNum());
+    for (long block = group * LANES; block < end; ++block) {
+        SearchBlock(block, GetBlockBox(block).Widened(m_margin));
     }
 }
 

@@ -27,13 +27,14 @@ public:
 
 private:
     void TestAllPairs();
-    void SearchGroup(long group, int level);
+    void SearchGroup(long group);
     void SearchBlock(long block, const FloatBox& box);
     void Descend(int level, long group, const FloatBox& box);
     unsigned GetEdgesBeside(long i, long block);
     void TestPair(long i, long j);
 
-    FloatBox GetBox(int level, long index) const;
+    FloatBox GetBlockBox(long block) const;
+    FloatBox GetGroupBox(long group) const;
     double GetSpan() const;
     double GetMargin(double span) const;
     std::uint32_t GetFlags(long i, long j, double paA, double paB, double det);
