@@ -144,6 +144,15 @@ TEST(Linearize, ByDistanceWithoutASegment) {
     EXPECT_TRUE(HasExactly(*one, "3,4"));
 }
 
+TEST(Linearize, ByDistanceASegmentWithoutALinearFormContributesNothing) {
+    const double far = 1e200;  // the square of its length is no number
+    QnGeMLine2d line = Straight("0,0 1,0 1,1 2,1");
+    line.SetVertex(2, QnGePoint(far, 0.0));
+    const LineOwner pieces(line.MLinearizeByDist(0.5, false));
+    ASSERT_EQ(pieces->GetVertexNum(), 3);
+    EXPECT_TRUE(HasExactly(*pieces, "0,0 0.5,0 2,1"));
+}
+
 TEST(Linearize, ChordsApproachTheLength) {
     for (int i = 0; i < 300; ++i) {
         const unsigned seed = CaseSeed(60, i);
