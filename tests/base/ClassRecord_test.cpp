@@ -110,3 +110,25 @@ TEST(ClassRecord, ExactTestsCompareTheAddressOfTheRecord) {
     EXPECT_TRUE(puppy.GetCI() == &Dog::s_classInfo);
     EXPECT_EQ(puppy.GetClassID(), 12);
 }
+
+namespace {
+
+/// Both a cat and a dog, as far as the record says; the first place is empty.
+class Chimera : public QnRxRunTimeClass {
+public:
+    static QnRxClassInfo s_classInfo;
+    const QnRxClassInfo* GetCI() const override { return &s_classInfo; }
+};
+
+QnRxClassInfo Chimera::s_classInfo("Chimera", 14, nullptr, nullptr, &Dog::s_classInfo, nullptr, nullptr,
+                                   &Cat::s_classInfo);
+
+}  // namespace
+
+TEST(ClassRecord, IsClassOfFollowsAllParentsOfARecord) {
+    const Chimera chimera;
+    EXPECT_TRUE(chimera.IsClassOf(&Dog::s_classInfo));
+    EXPECT_TRUE(chimera.IsClassOf(&Cat::s_classInfo));
+    EXPECT_TRUE(chimera.IsClassOf(&Animal::s_classInfo));
+    EXPECT_FALSE(Dog().IsClassOf(&Chimera::s_classInfo));
+}

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "curves2d/QnGeLineSeg2d.h"
 #include "frame/ProbeObject.h"
 #include "support/ContainerCheckers.h"
 #include "support/ExpectGeo.h"
@@ -175,4 +176,25 @@ TEST(RemoveDup, KeptOddDoesNothing) {
     list.RemoveDup();
     ExpectGeoList(list, "seg 0,0 4,0; seg 0,0 4,0");
     EXPECT_EQ(list.GetCur(), 1);
+}
+
+TEST(CheckInList, LeavesEmptyEntriesWhereTheyAre) {
+    QnGeObjList list;
+    QnGeObjList offered;
+    offered.Append(nullptr);
+    offered.Append(new QnGeLineSeg2d(QnGePoint(0.0, 0.0), QnGePoint(1.0, 0.0)));
+    offered.Append(nullptr);
+    list.CheckIn(offered);
+    EXPECT_EQ(list.GetLength(), 1);
+    EXPECT_EQ(offered.GetLength(), 2);
+    EXPECT_EQ(offered.GetDataNum(), 0);
+}
+
+TEST(RemoveSubObj, DropsEmptyEntries) {
+    QnGeObjList list;
+    list.Append(nullptr);
+    list.Append(new QnGeLineSeg2d(QnGePoint(0.0, 0.0), QnGePoint(1.0, 0.0)));
+    list.RemoveSubObj();
+    EXPECT_EQ(list.GetLength(), 1);
+    EXPECT_EQ(list.GetDataNum(), 1);
 }

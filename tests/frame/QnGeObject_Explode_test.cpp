@@ -265,3 +265,39 @@ TEST(EntityFrame, WithoutAnOwnSystemNothingHappens) {
     QnGeObject().TransToEcs(&point);
     ExpectPoint(point, "3,-4,5", 0.0);
 }
+
+TEST(QnGeObject_Explode, TheDefaultsPassOverPartsThatAreNull) {
+    PlaneBundle bundle("seg 0,0 4,0");
+    bundle.Add(nullptr);
+    bundle.Add(new QnGeLineSeg2d(QnGePoint(4.0, 0.0), QnGePoint(4.0, 3.0)));
+    bundle.Add(nullptr);
+
+    EXPECT_EQ(bundle.HitTest(QnGePoint(4.0, 2.0)), HIT_ON);
+    EXPECT_EQ(bundle.HitTest(QnGePoint(9.0, 2.0)), QnBitData());
+    EXPECT_TRUE(bundle.IsInclude(QnGePoint2d(4.0, 1.0)));
+    EXPECT_TRUE(QnGeLineSeg2d(QnGePoint(0.0, 0.0), QnGePoint(4.0, 0.0)).IsInclude(PlaneBundle("seg 1,0 2,0")));
+
+    QnGeObjList met;
+    EXPECT_TRUE(bundle.IntersectWith(QnGeLineSeg2d(QnGePoint(3.0, 1.0), QnGePoint(5.0, 1.0)), met));
+    EXPECT_EQ(met.GetLength(), 1);
+
+    QnGePoint nearest;
+    EXPECT_TRUE(bundle.GetClosestPoint2d(QnGePoint(6.0, 2.0), nearest));
+    EXPECT_EQ(nearest, QnGePoint(4.0, 2.0));
+    EXPECT_TRUE(bundle.GetClosestPoint(QnGePoint(6.0, 2.0), nearest));
+    EXPECT_EQ(nearest, QnGePoint(4.0, 2.0));
+
+    QnGeExtent2d box(SOME_BOX);
+    EXPECT_TRUE(bundle.GetExtent2d(box));
+    ExpectBox(box, 0.0, 4.0, 0.0, 3.0);
+    QnGeExtent3d space;
+    EXPECT_TRUE(bundle.GetExtent3d(space));
+    ExpectBox(space, 0.0, 4.0, 0.0, 3.0);
+}
+
+TEST(QnGeObject_Explode, PartsThatAreAllNullGiveNoExtent) {
+    PlaneBundle bundle("");
+    bundle.Add(nullptr);
+    QnGeExtent2d box(SOME_BOX);
+    EXPECT_FALSE(bundle.GetExtent2d(box));
+}

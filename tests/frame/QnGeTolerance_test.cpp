@@ -7,9 +7,11 @@
 #include <cstdlib>
 #include <iostream>
 #include <limits>
+#include <memory>
 #include <random>
 
 #include "frame/QnPushVar.h"
+#include "regions/QnGePolygon2d.h"
 
 namespace {
 
@@ -255,4 +257,28 @@ TEST(Iacos, IsTheArcCosineInside) {
 
 TEST(Iacos, NanReachesTheArcCosine) {
     EXPECT_TRUE(std::isnan(iacos(NOT_A_NUMBER)));
+}
+
+TEST(GetStdPa, AnInfinitePeriodEnds) {
+    EXPECT_EQ(GetStdPa(5.0, INF), 5.0);
+    EXPECT_EQ(GetStdPa(-5.0, INF), 0.0);
+}
+
+// Published for callers: nothing in the library looks at them.
+TEST(Tolerances, KeptOddAreaAndVolumeAreInert) {
+    const QnPushVar<double> area(g_areaZero, 1e9);
+    const QnPushVar<double> volume(g_volumeZero, 1e9);
+    QnGePolygon2d a(4);
+    QnGePolygon2d b(4);
+    const QnGePoint square[] = {{0.0, 0.0}, {2.0, 0.0}, {2.0, 2.0}, {0.0, 2.0}};
+    for (long i = 0; i < 4; ++i) {
+        a.Outline()[i] = square[i];
+        b.Outline()[i] = square[i] + QnGePoint(1.0, 1.0);
+    }
+    EXPECT_TRUE(a.IsValid());
+    EXPECT_EQ(a.Area(), 4.0);
+    EXPECT_EQ(a.HitTest(QnGePoint(1.0, 1.0)), HIT_ON);
+    const std::unique_ptr<QnGeRegion2d> both(a.Union(b));
+    ASSERT_NE(both, nullptr);
+    EXPECT_EQ(both->Area(), 7.0);
 }
