@@ -89,8 +89,8 @@ struct alignas(16) BlockVertices {
     float x[SPACE];
     float y[SPACE];
 
-    /// Bit k is set if both ends of edge k lie further than `clearance` from a line, on the same side of it. The line is
-    /// the one of all points p with the cross product of the unit direction and p equal to `offset`.
+    /// Bit k is set if both ends of edge k lie further than `clearance` from a line, on the same side of it. The line
+    /// is the one of all points p with the cross product of the unit direction and p equal to `offset`.
     unsigned GetEdgesBeside(float directionX, float directionY, float offset, float clearance) const;
 };
 

@@ -79,8 +79,9 @@ QnBitData ClosedHitTest::Run() const {
     }
 }
 
-// An edge without length is on everything at its level, also to its right, so an outline with one takes the pass over all
-// edges. Most points that come here lie on the line: the few edges about the point are asked before all those to its right.
+// An edge without length is on everything at its level, also to its right, so an outline with one takes the pass over
+// all edges. Most points that come here lie on the line: the few edges about the point are asked before all those to
+// its right.
 QnBitData ClosedHitTest::RunWith(OutlineIndex& index) const {
     if (m_count == 0 || !(g_fZero > 0.0) || !index.IsUsable() || index.HasShortEdge()) {
         return Run();

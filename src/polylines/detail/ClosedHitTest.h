@@ -15,8 +15,8 @@ enum class BandSide;
 
 /// The hit test of one point against a closed line: HIT_ON, HIT_IN or HIT_OUT.
 ///
-/// Both forms give the same answer: Run passes over all vertices, RunWith asks an index over the line for the edges that
-/// matter.
+/// Both forms give the same answer: Run passes over all vertices, RunWith asks an index over the line for the edges
+/// that matter.
 ///
 /// See  ClosedHitTest.cpp
 class ClosedHitTest {

@@ -47,8 +47,8 @@ public:
     long GetVertexAfter(long i) const { return i + 1 < m_vertexNum ? i + 1 : 0; }
     const QnGePoint& GetEdgeEnd(long i) const { return m_vertices[GetVertexAfter(i)]; }
 
-    /// False if a box cannot be widened by so much: `margin` is too large for a float or no number. An infinite box would
-    /// meet empty lanes too, which stand for no edge.
+    /// False if a box cannot be widened by so much: `margin` is too large for a float or no number. An infinite box
+    /// would meet empty lanes too, which stand for no edge.
     static bool CanWiden(double margin);
 
     /// The box of the whole outline.

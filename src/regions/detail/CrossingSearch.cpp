@@ -36,8 +36,8 @@ constexpr int LANES = BoxLanes::COUNT;
 constexpr double ROUNDING = 1e-15;
 // Four roundings to float, relative to coordinates that are measured from within the hull.
 constexpr double FLOAT_ROUNDING = 1e-6;
-// Boxes of long slanted edges say little. From so many candidates in a block on it pays to ask on which side of the edge
-// they lie.
+// Boxes of long slanted edges say little. From so many candidates in a block on it pays to ask on which side of the
+// edge they lie.
 constexpr int WORTH_A_SIDE_TEST = 3;
 // Clearance from an edge's line, in spans, at which the parameter of the crossing is out of range beyond all rounding.
 constexpr double SIDE_CLEARANCE = 4e-6;
