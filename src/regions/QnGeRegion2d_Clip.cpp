@@ -12,11 +12,13 @@
 // Phases     1  CutByOutline  without an outline everything is inside.
 //            2  Each hole     sends what lies inside it to `out`; what lies outside goes on to the next hole.
 // Ownership  Every piece is new and passes from list to list; the object stays as it is.
-// Why so     A region as object is not clipped by IsInclude and IntersectWith: its boolean operations know more about
-//            it than the cut of its pieces does.
+// Why so     A region as object is not clipped by IntersectWith: its boolean operations know more about it than the cut
+//            of its pieces does. IsInclude asks the difference of straight polygons, which has an answer; of other
+//            regions it asks whether their boundaries stay inside and leave the holes alone.
 #include "curves2d/QnGeCurve2d.h"
 #include "frame/QnGeObjList.h"
 #include "regions/QnGeRegion2d.h"
+#include "values/QnGePoint.h"
 
 namespace {
 
@@ -42,6 +44,43 @@ void CutByOutline(const QnGeCurve2d* outline, const QnGeObject& object, QnGeObjL
     }
 }
 
+/// Whether `region` less `other` is known: both are straight, the first without holes.
+bool HasDifference(const QnGeRegion2d& region, const QnGeRegion2d& other) {
+    const bool isStraight =
+        other.GetClassID() == CLASS_ID_POLYGON2D || other.GetClassID() == CLASS_ID_GENERAL_POLYGON2D;
+    return region.GetClassID() == CLASS_ID_POLYGON2D && isStraight;
+}
+
+/// Whether no piece of the boundaries of `region` is outside `frame`.
+bool IsBoundaryInside(const QnGeRegion2d& region, const QnGeRegion2d& frame) {
+    if (!region.IsOutlineExist() && frame.IsOutlineExist()) {
+        return false;
+    }
+    for (long i = 0; i < region.GetBoundaryNum(); ++i) {
+        const QnGeCurve2d* boundary = region.GetBoundary(i);
+        QnGeObjList rest;
+        QnGeObjList outside;
+        if (boundary != nullptr) {
+            frame.Clip(*boundary, rest, outside, rest);
+        }
+        if (!IsNothingIn(outside)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Whether `region` covers a hole of `frame`: it then reaches into what the frame leaves out.
+bool IsHoleCovered(const QnGeRegion2d& frame, const QnGeRegion2d& region) {
+    for (long i = 1; i < frame.GetBoundaryNum(); ++i) {
+        const QnGeCurve2d* hole = frame.GetBoundary(i);
+        if (hole != nullptr && region.HitTest(hole->GetSamplePoint()) == HIT_ON) {
+            return true;
+        }
+    }
+    return false;
+}
+
 }  // namespace
 
 void QnGeRegion2d::Clip(const QnGeObject& object, QnGeObjList& in, QnGeObjList& out, QnGeObjList& on) const {
@@ -62,7 +101,11 @@ void QnGeRegion2d::Clip(const QnGeObject& object, QnGeObjList& in, QnGeObjList& 
 bool QnGeRegion2d::IsInclude(const QnGeObject& other) const {
     QnGeObjList outside;
     if (IsRegion(other)) {
-        static_cast<const QnGeRegion2d&>(other).SubtractBy(*this, outside);
+        const auto& region = static_cast<const QnGeRegion2d&>(other);
+        if (!HasDifference(region, *this)) {
+            return IsBoundaryInside(region, *this) && !IsHoleCovered(*this, region);
+        }
+        region.SubtractBy(*this, outside);
     } else {
         QnGeObjList rest;
         Clip(other, rest, outside, rest);

@@ -180,11 +180,40 @@ TEST(QnGeGeneralRegion2dAppendHole, WithTheFlagBoundariesMustNotMeet) {
 }
 
 // The inclusion of one region in another asks what remains of it, and regions of this class answer that with nothing.
-TEST(QnGeGeneralRegion2dAppendHole, WithCheckHolesAreNotComparedWithTheAreaOfTheRegion) {
+TEST(QnGeGeneralRegion2dAppendHole, WithCheckAHoleMustLieInTheRegion) {
     QnGeGeneralRegion2d region = GeneralRegion("mline 0,0 9,0 9,9 0,9 close");
-    EXPECT_TRUE(region.AppendHole(NewCurve("mline 18,1 22,1 22,2 18,2 close"), true));
-    ExpectGeo(region.GetBoundary(1), "mline 18,1 18,2 22,2 22,1 close");
-    EXPECT_FALSE(region.IsValid());
+    EXPECT_FALSE(region.AppendHole(NewCurve("mline 18,1 22,1 22,2 18,2 close"), true));
+    EXPECT_FALSE(region.AppendHole(NewCurve("mline 8,1 10,1 10,2 8,2 close"), true));
+    EXPECT_FALSE(region.AppendHole(NewCurve("circle 8,8 r2"), true));
+    EXPECT_FALSE(region.AppendHole(NewCurve("circle 4,4 r20"), true));
+    EXPECT_EQ(region.GetHoleNum(), 0);
+
+    EXPECT_TRUE(region.AppendHole(NewCurve("mline 1,1 2,1 2,2 1,2 close"), true));
+    EXPECT_TRUE(region.AppendHole(NewCurve("circle 5,5 r2"), true));
+    EXPECT_EQ(region.GetHoleNum(), 2);
+    EXPECT_TRUE(region.IsValid());
+}
+
+TEST(QnGeGeneralRegion2dAppendHole, WithCheckAHoleMustNotCoverAnother) {
+    QnGeGeneralRegion2d region = GeneralRegion("mline 0,0 9,0 9,9 0,9 close");
+    EXPECT_TRUE(region.AppendHole(NewCurve("circle 5,5 r1"), true));
+    EXPECT_FALSE(region.AppendHole(NewCurve("circle 5,5 r2"), true));
+    EXPECT_FALSE(region.AppendHole(NewCurve("circle 5,5 r0.5"), true));
+    EXPECT_EQ(region.GetHoleNum(), 1);
+}
+
+TEST(QnGeGeneralRegion2d, IncludesWhatLiesInItAndOutOfItsHoles) {
+    const QnGeGeneralRegion2d ring = GeneralRegion("circle 0,0 r5 | circle 0,0 r2 cw");
+    EXPECT_TRUE(ring.IsInclude(GeneralRegion("circle 3.5,0 r1")));
+    EXPECT_TRUE(ring.IsInclude(GeneralRegion("circle 0,0 r5 | circle 0,0 r2 cw")));
+    EXPECT_TRUE(ring.IsInclude(GeneralRegion("circle 0,0 r4 | circle 0,0 r3 cw")));
+    EXPECT_FALSE(ring.IsInclude(GeneralRegion("circle 0,0 r4")));
+    EXPECT_FALSE(ring.IsInclude(GeneralRegion("circle 0,0 r1")));
+    EXPECT_FALSE(ring.IsInclude(GeneralRegion("circle 4,0 r2")));
+    EXPECT_FALSE(ring.IsInclude(GeneralRegion("circle 50,0 r2")));
+    EXPECT_FALSE(ring.IsInclude(QnGeGeneralRegion2d()));
+    EXPECT_TRUE(QnGeGeneralRegion2d().IsInclude(ring));
+    EXPECT_TRUE(QnGeGeneralRegion2d().IsInclude(QnGeGeneralRegion2d()));
 }
 
 // ---- stream ----------------------------------------------------------------------------------------

@@ -58,6 +58,14 @@ public:
         return m_length++;
     }
 
+    /// Appends a record with undefined contents, to be written where it stands.
+    T& AppendUnset() {
+        if (m_length == m_space) {
+            SetSpace(m_space < SMALLEST_SPACE ? SMALLEST_SPACE : 2 * m_space);
+        }
+        return m_block[m_length++];
+    }
+
     /// Makes room for `space` records, at least as many as there are.
     void SetSpace(long space) {
         std::size_t bytes = Size(space) * sizeof(T);

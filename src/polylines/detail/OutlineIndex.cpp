@@ -64,19 +64,19 @@ FloatBox OutlineIndex::GetBlockBox(long block) {
     double y0 = end.y;
     double x1 = end.x;
     double y1 = end.y;
-    double notFinite = end.x * 0.0 + end.y * 0.0;  // stays 0 unless a coordinate is infinite or no number
+    double sum = end.x + end.y;  // stays finite as long as all coordinates are, and are usable
     for (long i = first; i < last; ++i) {
         const QnGePoint& p = m_vertices[i];
         x0 = std::min(x0, p.x);
         y0 = std::min(y0, p.y);
         x1 = std::max(x1, p.x);
         y1 = std::max(y1, p.y);
-        notFinite += p.x * 0.0 + p.y * 0.0;
+        sum += p.x + p.y;
     }
     const FloatBox box = {static_cast<float>(x0 - m_centreX), static_cast<float>(y0 - m_centreY),
                           static_cast<float>(x1 - m_centreX), static_cast<float>(y1 - m_centreY)};
     const double reach = std::max({std::fabs(x0), std::fabs(y0), std::fabs(x1), std::fabs(y1)});
-    m_usable = m_usable && notFinite == 0.0 && reach <= FLOAT_COORDINATE_LIMIT;
+    m_usable = m_usable && std::isfinite(sum) && reach <= FLOAT_COORDINATE_LIMIT;
     return box;
 }
 

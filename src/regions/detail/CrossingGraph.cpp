@@ -76,37 +76,39 @@ void CrossingGraph::ReserveNodes(long crossingNum) {
     m_free.SetSpace(crossingNum);
 }
 
-std::int32_t CrossingGraph::AddNode(const Node& node, const Place& place) {
-    m_places.Append(place);
-    return static_cast<std::int32_t>(m_nodes.Append(node));
+// A node without links. It is written where it stands: a copy of a record just written waits for the writing.
+std::int32_t CrossingGraph::AddNode(double x, double y, double z) {
+    Place& place = m_places.AppendUnset();
+    place.x = x;
+    place.y = y;
+    place.z = z;
+    m_nodes.AppendUnset() = UNLINKED;
+    return static_cast<std::int32_t>(m_nodes.GetLength() - 1);
 }
 
 void CrossingGraph::Enter(const EdgeCrossing& crossing) {
     const QnGePoint& start = GetIndex(0).GetVertex(crossing.edge[0]);
     const QnGePoint& end = GetIndex(0).GetEdgeEnd(crossing.edge[0]);
     const double paA = crossing.pa[0];
-    const Place place = {start.x + paA * (end.x - start.x), start.y + paA * (end.y - start.y),
-                         start.z + paA * (end.z - start.z)};
-    Node fresh = UNLINKED;
-    fresh.flags = crossing.flags;
+    const std::int32_t node = AddNode(start.x + paA * (end.x - start.x), start.y + paA * (end.y - start.y),
+                                      start.z + paA * (end.z - start.z));
+    m_nodes[node].flags = crossing.flags;
     long vertex[2];
+    double pa[2];
     for (int side = 0; side < 2; ++side) {
-        vertex[side] = crossing.edge[side];
-        fresh.pa[side] = crossing.pa[side];
-        if (IsZero(crossing.pa[side] - 1.0, g_fZero)) {
-            vertex[side] = GetIndex(side).GetVertexAfter(vertex[side]);
-            fresh.pa[side] = 0.0;
-        }
+        const bool isAtEnd = IsZero(crossing.pa[side] - 1.0, g_fZero);
+        vertex[side] = isAtEnd ? GetIndex(side).GetVertexAfter(crossing.edge[side]) : crossing.edge[side];
+        pa[side] = isAtEnd ? 0.0 : crossing.pa[side];
+        m_nodes[node].pa[side] = pa[side];
     }
-    const std::int32_t node = AddNode(fresh, place);
     for (int side = 0; side < 2; ++side) {
         Insert(node, GetNodeOfVertex(vertex[side], side), side);
     }
-    if (fresh.pa[0] > g_fZero && fresh.pa[1] > g_fZero) {
+    if (pa[0] > g_fZero && pa[1] > g_fZero) {
         if (m_nodes[node].free == NONE) {
             m_nodes[node].free = static_cast<std::int32_t>(m_free.Append(node));
         }
-    } else if (IsZero(fresh.pa[0], g_fZero) && IsZero(fresh.pa[1], g_fZero)) {
+    } else if (IsZero(pa[0], g_fZero) && IsZero(pa[1], g_fZero)) {
         m_droppedVertex.Append(static_cast<std::int32_t>(vertex[1]));
     }
 }
@@ -227,26 +229,25 @@ std::int32_t CrossingGraph::GetNodeOfVertex(long vertex, int side) {
 
 std::int32_t CrossingGraph::MakeVertexNode(long vertex, int side) {
     const QnGePoint& point = GetIndex(side).GetVertex(vertex);
-    Node fresh = UNLINKED;
+    const std::int32_t node = AddNode(point.x, point.y, point.z);
+    Node& fresh = m_nodes[node];
     fresh.vertex[side] = static_cast<std::int32_t>(vertex);
-    const auto node = static_cast<std::int32_t>(m_nodes.GetLength());
-    const bool isFirst = vertex == 0;
-    const bool isLast = vertex + 1 == GetIndex(side).GetVertexNum();
-    const bool isClosed = m_outlines[side]->isClosed;
-    if (isClosed || !isLast) {
-        fresh.next[side] = GetLinkTo(isLast ? 0 : vertex + 1, side);
+    const long last = GetIndex(side).GetVertexNum() - 1;
+    if (m_outlines[side]->isClosed || vertex != last) {
+        const Link next = GetLinkTo(vertex == last ? 0 : vertex + 1, side);
+        fresh.next[side] = next;
+        if (next >= 0) {
+            m_nodes[next].prev[side] = node;
+        }
     }
-    if (isClosed || !isFirst) {
-        fresh.prev[side] = GetLinkTo(isFirst ? GetIndex(side).GetVertexNum() - 1 : vertex - 1, side);
+    if (m_outlines[side]->isClosed || vertex != 0) {
+        const Link prev = GetLinkTo(vertex == 0 ? last : vertex - 1, side);
+        fresh.prev[side] = prev;
+        if (prev >= 0) {
+            m_nodes[prev].next[side] = node;
+        }
     }
-    AddNode(fresh, {point.x, point.y, point.z});
     m_outlines[side]->nodeOf[vertex] = node;
-    if (fresh.next[side] >= 0) {
-        m_nodes[fresh.next[side]].prev[side] = node;
-    }
-    if (fresh.prev[side] >= 0) {
-        m_nodes[fresh.prev[side]].next[side] = node;
-    }
     return node;
 }
 

@@ -89,7 +89,7 @@ private:
     };
 
     void ReserveNodes(long crossingNum);
-    std::int32_t AddNode(const Node& node, const Place& place);
+    std::int32_t AddNode(double x, double y, double z);
     void Enter(const EdgeCrossing& crossing);
     void Insert(std::int32_t node, std::int32_t start, int side);
     void LinkBefore(std::int32_t node, std::int32_t at, int side);

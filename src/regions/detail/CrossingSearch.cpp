@@ -36,14 +36,19 @@ constexpr int LANES = BoxLanes::COUNT;
 constexpr double ROUNDING = 1e-15;
 // Four roundings to float, relative to coordinates that are measured from within the hull.
 constexpr double FLOAT_ROUNDING = 1e-6;
-// Boxes of long slanted edges say little. From so many candidates in a block on it pays to ask on which side of the
-// edge they lie.
-constexpr int WORTH_A_SIDE_TEST = 3;
 // Clearance from an edge's line, in spans, at which the parameter of the crossing is out of range beyond all rounding.
 constexpr double SIDE_CLEARANCE = 4e-6;
 constexpr double SIDE_CLEARANCE_OF_TOLERANCE = 1e6;
 // What the two divisions of a parameter may lose.
 constexpr double DIVISION_ROUNDING = 1e-14;
+
+// Boxes of long slanted edges say little. From three candidates in a block on it pays to ask on which side of the edge
+// they lie.
+bool HasThreeLanes(unsigned lanes) {
+    lanes &= lanes - 1;
+    lanes &= lanes - 1;
+    return lanes != 0;
+}
 
 double Cross(const EdgeDirection& a, const EdgeDirection& b) {
     return a.x * b.y - a.y * b.x;
@@ -155,7 +160,7 @@ void CrossingSearch::SearchBlock(long block, const FloatBox& box) {
         const FloatBox edgeBox = edgeBoxes.GetBox(static_cast<int>(k)).Widened(m_margin);
         for (const std::int32_t other : m_candidate) {
             unsigned lanes = m_second.GetEdgeBoxes(other).GetMeeting(edgeBox);
-            if (__builtin_popcount(lanes) >= WORTH_A_SIDE_TEST) {
+            if (HasThreeLanes(lanes)) {
                 lanes &= ~GetEdgesBeside(first + k, other);
             }
             while (lanes != 0) {
@@ -204,13 +209,13 @@ void CrossingSearch::TestPair(long i, long j) {
     if (!onBoth) {
         return;
     }
-    EdgeCrossing crossing = {};
+    const std::uint32_t flags = GetFlags(i, j, paA, paB, det);
+    EdgeCrossing& crossing = m_found->AppendUnset();
     crossing.edge[0] = static_cast<std::int32_t>(i);
     crossing.edge[1] = static_cast<std::int32_t>(j);
     crossing.pa[0] = paA;
     crossing.pa[1] = paB;
-    crossing.flags = GetFlags(i, j, paA, paB, det);
-    m_found->Append(crossing);
+    crossing.flags = flags;
 }
 
 // What ends on the other outline's edge end is left to the edge that follows there: its start gives the same node.
