@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every pair of the overlay table: area found, area expected, relative error.
 //
-// The operands have holes and many parts, the booleans at work are those of plain polygons, so the areas are put together
-// from rings (RingSet.h). Pairs of single rings are united and subtracted directly as well.
+// The operands have holes and many parts, the booleans at work are those of plain polygons, so the areas are put
+// together from rings (RingSet.h). Pairs of single rings are united and subtracted directly as well.
 #include <algorithm>
 #include <cstdio>
 #include <fstream>

@@ -11,8 +11,8 @@
 #include "values/QnGeExtent2d.h"
 #include "values/QnGeMatrix.h"
 
-// Polygons with holes and of many parts, put together from rings: with +1 for an outline and -1 for a hole, a set of points
-// is the sum of its signed rings. So the booleans of plain polygons are enough to measure any of them.
+// Polygons with holes and of many parts, put together from rings: with +1 for an outline and -1 for a hole, a set
+// of points is the sum of its signed rings. So the booleans of plain polygons are enough to measure any of them.
 
 /// One ring as a polygon, counter-clockwise whether it bounds a part or a hole.
 struct SignedRing {
@@ -97,8 +97,8 @@ inline QnGeGeneralRegion2d Drawing(const RingSet& rings) {
     return QnGeGeneralRegion2d(outlines, false);
 }
 
-/// The same for intersections of rings. Filled by the even-odd rule they may lie over each other: what the two sets have
-/// in common is exactly what an odd number of them covers.
+/// The same for intersections of rings. Filled by the even-odd rule they may lie over each other: what the two
+/// sets have in common is exactly what an odd number of them covers.
 inline QnGeGeneralRegion2d Drawing(const QnGeObjList& pieces) {
     QnGeObjList outlines;
     for (long i = 0; i < pieces.GetLength(); ++i) {

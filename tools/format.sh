@@ -13,3 +13,9 @@ case "${1:-}" in
         ;;
 esac
 git ls-files -z -- '*.h' '*.cpp' | xargs -0 clang-format --style=file "${flags[@]}"
+
+# The formatter leaves comments as they are.
+if ! git ls-files -z -- '*.h' '*.cpp' |
+    xargs -0 awk 'length($0) > 120 { print FILENAME ":" FNR ": longer than 120 columns"; bad = 1 } END { exit bad }'; then
+    exit 1
+fi

@@ -7,8 +7,8 @@
 //          2  Race       warm-up and rounds, each run followed by a check of its area
 //          3  AddRow     best times, and the best rival's over ours
 //          after that the growth of each over the two decades from 1,000 vertices on
-// Why so   A rival that would need longer than LONGEST_RUN for one run gets a dash: its time is estimated from its growth
-//          so far, which is taken to steepen as it did before.
+// Why so   A rival that would need longer than LONGEST_RUN for one run gets a dash: its time is estimated from
+//          its growth so far, which is taken to steepen as it did before.
 
 #include <algorithm>
 #include <cmath>

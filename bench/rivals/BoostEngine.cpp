@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Boost.Geometry on doubles, Cartesian, with its default strategies: union_, intersection, difference and within. Without
-// the rescaling to whole numbers, which this version does by default: it takes longer, and its areas are off by 1e-8.
+// Boost.Geometry on doubles, Cartesian, with its default strategies: union_, intersection, difference and within.
+// Without the rescaling to whole numbers, which this version does by default: it takes longer, and its areas are
+// off by 1e-8.
 
 // The library includes old headers of its own, which would say so.
 #define BOOST_ALLOW_DEPRECATED_HEADERS

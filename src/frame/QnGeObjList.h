@@ -17,8 +17,8 @@ class QnGeSolid3d;
 ///
 /// Ownership  Of all entries. Conbine hands entries from list to list without copying; TakeOff... hands them out.
 /// Fails      An entry may be null where an operation had no object to give; the whole-list operations pass over it.
-/// Stream     A long with the number of entries; then per entry a long with the class id and the object's record. A null
-///            entry is written as the id 0 without a record.
+/// Stream     A long with the number of entries; then per entry a long with the class id and the object's record.
+///            A null entry is written as the id 0 without a record.
 class QUARNGEO_API QnGeObjList : public QnPDList<QnGeObject> {
 public:
     // ---- making ----------------------------------------------------------------------------------
@@ -46,7 +46,8 @@ public:
     /// the entries that it includes and appends it.
     ///
     /// Ownership  Taken only with the answer true.
-    /// Fails      False for null and for a covered object. Entries dropped before the covering one was met stay dropped.
+    /// Fails      False for null and for a covered object. Entries dropped before the covering one was met stay
+    ///            dropped.
     bool CheckIn(QnGeObject* object);
 
     /// Checks in each entry of `objects`, which keeps those that were refused. A list is not checked into itself.

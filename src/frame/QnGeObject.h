@@ -17,8 +17,8 @@ class QnStream;
 
 /// Root of everything that can sit in a QnGeObjList, be cloned, streamed, hit-tested and intersected.
 ///
-/// Every operation has a working default that falls back on Explode: a compound class that overrides Explode alone takes
-/// part in hit tests, extents, inclusion, intersection and closest-point queries.
+/// Every operation has a working default that falls back on Explode: a compound class that overrides Explode
+/// alone takes part in hit tests, extents, inclusion, intersection and closest-point queries.
 ///
 /// Valid     False unless a class says otherwise.
 /// Stream    The flag word as a long; then the fields of each class from the root downward. No length, version or end

@@ -88,8 +88,8 @@ enum class VertexPlace {
     ALL_ON    ///< all of them are on the outline
 };
 
-/// The place of the vertices of `line` to `outline`, over which `index` is the graph's. A walk that goes on past its first
-/// vertex is one along the outline, which only the index makes bearable.
+/// The place of the vertices of `line` to `outline`, over which `index` is the graph's. A walk that goes on past
+/// its first vertex is one along the outline, which only the index makes bearable.
 VertexPlace WalkVertices(const QnGeMLine2d& line, const QnGeMLine2d& outline, qn_detail::OutlineIndex& index) {
     for (long i = 0; i < line.GetVertexNum(); ++i) {
         const QnGePoint& vertex = line.GetVertex(i);

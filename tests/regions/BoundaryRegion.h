@@ -12,8 +12,8 @@
 
 namespace region_testing {
 
-/// A region that overrides nothing but its boundaries, which may be missing anywhere: "circle 0,0 r5; null; line 0,0 1,0".
-/// An empty text is a region without boundaries.
+/// A region that overrides nothing but its boundaries, which may be missing anywhere: "circle 0,0 r5; null; line
+/// 0,0 1,0". An empty text is a region without boundaries.
 class BoundaryRegion : public QnGeRegion2d {
 public:
     explicit BoundaryRegion(const std::string& boundaries) {

@@ -35,8 +35,8 @@ TEST(QnGePolygon2dRingOrder, VerticesOfTheSecondComeBeforeThoseOfTheFirstAndThen
 }
 
 TEST(QnGePolygon2dRingOrder, AVertexOfBothStandsWithTheFirst) {
-    // One ring starts at the corner 0,0 that both have as their first vertex, the other one at 7,6, where a later vertex
-    // of the second lies on an edge of the first.
+    // One ring starts at the corner 0,0 that both have as their first vertex, the other one at 7,6, where a later
+    // vertex of the second lies on an edge of the first.
     const QnGePolygon2d block = Polygon("0,0 12,0 12,6 0,6");
     const QnGePolygon2d claw = Polygon("0,0 5,3 -1,4 -1,7 7,7 7,6 7,4 8,4 8,7 9,7 9,8 -2,8 -2,-1");
     QnGeObjList pieces;
@@ -53,8 +53,9 @@ TEST(QnGePolygon2dSubtract, OfTwoRingsAClockwiseSecondOneIsAHole) {
 }
 
 TEST(QnGePolygon2dSubtract, KeptOddOfTwoRingsOfAClockwiseOperandEitherMakesTheOtherAHole) {
-    // A clockwise clamp is all that lies outside of it. Less the bar that closes it there remain the room between the two
-    // and all that lies outside both, which runs clockwise. The start of the clamp decides which of them comes first.
+    // A clockwise clamp is all that lies outside of it. Less the bar that closes it there remain the room between
+    // the two and all that lies outside both, which runs clockwise. The start of the clamp decides which of them
+    // comes first.
     for (const char* const clamp : {"0,3 3,3 3,2 1,2 1,1 3,1 3,0 0,0", "3,2 1,2 1,1 3,1 3,0 0,0 0,3 3,3"}) {
         ExpectGeoList(Subtract(clamp, "2,-1 2.5,-1 2.5,4 2,4"),
                       std::string("region ") + clamp + " | 2,-1 2,4 2.5,4 2.5,-1", 0.0);

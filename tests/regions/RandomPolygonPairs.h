@@ -7,8 +7,8 @@
 
 #include "RegionTesting.h"
 
-/// Pairs of simple counter-clockwise polygons on which the booleans must be exact: in general position, on lattices with
-/// contacts of every kind, turned and moved.
+/// Pairs of simple counter-clockwise polygons on which the booleans must be exact: in general position, on
+/// lattices with contacts of every kind, turned and moved.
 namespace region_testing {
 
 struct SimplePair {

@@ -205,8 +205,8 @@ inline bool IsSelfCrossing(const Ring& ring) {
     return false;
 }
 
-/// "" if a straight region is built as a result must be, else what is wrong with it. With `general` the operands were in
-/// general position, where no ring may cross itself either.
+/// "" if a straight region is built as a result must be, else what is wrong with it. With `general` the operands
+/// were in general position, where no ring may cross itself either.
 inline std::string CheckRegion(const QnGeRegion2d* region, bool general) {
     if (region == nullptr) {
         return "null region";
@@ -289,7 +289,8 @@ inline std::string PairText(const Ring& a, const Ring& b) {
     return "a " + ToText(PolygonOf(a)) + "\nb " + ToText(PolygonOf(b)) + '\n';
 }
 
-/// Whether all vertices of one ring lie on the other without an area in common: the pair that is taken for a nested one.
+/// Whether all vertices of one ring lie on the other without an area in common: the pair that is taken for a
+/// nested one.
 inline bool DoesFillABay(const Ring& a, const Ring& b, const Areas& areas) {
     const auto allOn = [](const Ring& ring, const Ring& other) {
         for (const QnGePoint& p : ring) {

@@ -10,8 +10,8 @@
 
 #include "support/PolygonPairs.h"
 
-/// Simple outlines on a small lattice of whole numbers: two of them share edges, parts of edges and vertices as often as
-/// not, and everything about them can be decided exactly.
+/// Simple outlines on a small lattice of whole numbers: two of them share edges, parts of edges and vertices as
+/// often as not, and everything about them can be decided exactly.
 namespace lattice_polygons {
 
 using polygon_pairs::Ring;

@@ -11,8 +11,8 @@ using PieceVisit = bool (*)(const QnGeCurve2d& piece, void* context);
 /// Whether the curve is exactly a multi-line or a polyline, whose pieces ForEachSegment shows.
 bool IsPlainPolyline(const QnGeCurve2d& curve);
 
-/// Whether the curve is exactly a line, ray, segment, circle or arc, which are known not to explode. A class that a caller
-/// derives from one of them is asked.
+/// Whether the curve is exactly a line, ray, segment, circle or arc, which are known not to explode. A class that
+/// a caller derives from one of them is asked.
 bool IsPlainPrimitive(const QnGeCurve2d& curve);
 
 /// ForEachPiece of a multi-line or polyline: the same pieces, without an object made for each.
