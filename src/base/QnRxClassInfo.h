@@ -11,7 +11,8 @@ class QnRxDynCreateClass;
 /// the destructor does nothing: an object may outlive the record of its class at exit.
 class QUARNBASE_API QnRxClassInfo {
 public:
-    /// `creator` and the parents after the first are part of the interface and null in every record of the library.
+    /// `creator` and the parents after the first are part of the interface and null in every record of the library;
+    /// nothing ever asks for the creator.
     ///
     /// Ownership  `name` must live as long as the record; a string literal does.
     QnRxClassInfo(const char* name, long classId, QnRxDynCreateClass* (*creator)(), QnRxClassInfo* parent1,
@@ -34,6 +35,5 @@ public:
 private:
     const char* m_name;
     long m_classId;
-    QnRxDynCreateClass* (*m_creator)();
     QnRxClassInfo* m_parents[PARENT_COUNT];
 };

@@ -12,8 +12,8 @@
 //
 // Phases     1  LevelScan passes over the edges that stay above or below the ray, several at a time; with an index, its
 //               boxes leave them out
-//            2  TestNearEdge: an edge wholly left of the point is missed, one that crosses the ray's band well to the
-//               right of the point is crossed
+//            2  TestNearEdge: an edge that crosses the ray's band well to the right of the point is crossed, one well to
+//               its left is missed
 //            3  TestEdge: what is left, by the stated rule: on, crossed, crossed at its end (PassesLevelAfter), missed
 //            4  parity
 // Why so     Phases 1 and 2 decide only where phase 3 could not decide otherwise: their bands are wider than every
@@ -44,6 +44,9 @@ constexpr double ROUNDING = 1e-15;
 // The same for coordinates that were rounded to floats.
 constexpr double FLOAT_ROUNDING = 1e-6;
 
+// Beyond this the products of the stated rule overflow, and no band tells what comes of it.
+constexpr double LARGEST_REACH = 1e30;
+
 // Half the height of the band outside which an edge of at most this height cannot meet the ray.
 double GetBandHalf(double height) {
     return 2.0 * (g_distZero + 2.0 * g_fZero * height);
@@ -72,6 +75,9 @@ QnBitData ClosedHitTest::Run() const {
         LevelScan scan(m_vertices, m_count, m_point.y, GetBandHalf(height));
         const QnBitData hit = TestNearEdges(scan);
         const double reach = 2.0 * std::max(scan.GetHighest() - m_point.y, m_point.y - scan.GetLowest());
+        if (reach > LARGEST_REACH) {
+            return TestAllEdges();
+        }
         if (!(reach > height) || hit.HasBit(HIT_ON)) {
             return hit;
         }
@@ -188,13 +194,21 @@ ClosedHitTest::EdgeHit ClosedHitTest::TestNearEdge(long i, BandSide side, BandSi
             return EdgeHit::NONE;
         }
         const bool staysOut = side == nextSide && side != BandSide::INSIDE;
-        const bool passesBand = side != BandSide::INSIDE && nextSide != BandSide::INSIDE && side != nextSide;
-        const bool isSteep = height > 4.0 * g_fZero * (width + height) && height > 2.0 * g_fZero;
         if (staysOut) {
             return EdgeHit::NONE;
         }
-        if (passesBand && isSteep && std::min(a.x, b.x) > m_point.x + margin) {
-            return EdgeHit::FLIP;
+        const bool passesBand = side != BandSide::INSIDE && nextSide != BandSide::INSIDE;
+        const bool isSteep = height > 4.0 * g_fZero * (width + height) && height > 2.0 * g_fZero;
+        if (passesBand && isSteep) {
+            if (std::min(a.x, b.x) > m_point.x + margin) {
+                return EdgeHit::FLIP;
+            }
+            // Twice the area between the edge and the point: far enough off the edge, the side alone decides.
+            const double area = (b.x - a.x) * (m_point.y - a.y) - (b.y - a.y) * (m_point.x - a.x);
+            if (std::fabs(area) > margin * (width + height)) {
+                const bool isEdgeAhead = (area > 0.0) == (b.y > a.y);
+                return isEdgeAhead ? EdgeHit::FLIP : EdgeHit::NONE;
+            }
         }
     }
     return TestEdge(i);

@@ -220,7 +220,7 @@ void CrossingSearch::TestPair(long i, long j) {
 
 // What ends on the other outline's edge end is left to the edge that follows there: its start gives the same node.
 std::uint32_t CrossingSearch::GetFlags(long i, long j, double paA, double paB, double det) {
-    const bool secondToLeft = det > 0.0;
+    const bool secondToLeft = IsGreater(det, m_fZero);
     std::uint32_t flags = 0;
     if (!IsZero(paB - 1.0, m_fZero)) {
         flags |= GetFlagsOfOne(m_first, i, paA, m_second.GetDirection(j), secondToLeft, PT_A_LEAVES, PT_A_ENTERS);

@@ -49,7 +49,7 @@ Effect StraightEffect(const QnGeBaseLine2d& segment, const QnGePoint& p, const P
     if (code == 10) {
         double pa = 0.0;
         segment.GetPaFromPt(p, pa);
-        return pa >= -g_fZero && pa <= 1.0 + g_fZero ? Effect::ON : Effect::NOTHING;
+        return pa >= -g_fZero && pa - 1.0 <= g_fZero ? Effect::ON : Effect::NOTHING;
     }
     if (code != 1 || !(t >= -g_fZero && s >= -g_fZero && s - 1.0 <= g_fZero)) {
         return Effect::NOTHING;
