@@ -136,7 +136,12 @@ TEST(QnGeRegion2dClip, RandomSegmentsFallIntoTheirShares) {
                 }
             }
         }
-        EXPECT_EQ(on.GetLength(), 0);
+        // Only a tiny piece, cut off at a corner, has its middle so near the boundary that it counts as on it.
+        for (long k = 0; k < on.GetLength(); ++k) {
+            const auto& piece = dynamic_cast<const QnGeLineSeg2d&>(*on.GetPData(k));
+            length += piece.Length();
+            EXPECT_LE(exact_area::DistanceToRings(rings, piece.GetMidPoint()), 1.001e-6);
+        }
         EXPECT_NEAR(length, segment.Length(), 1e-9);
         EXPECT_EQ(region.IsInclude(segment), out.GetLength() == 0);
         if (HasFailure()) {
