@@ -12,8 +12,8 @@
 //
 // Phases     1  LevelScan passes over the edges that stay above or below the ray, several at a time; with an index, its
 //               boxes leave them out
-//            2  TestNearEdge: an edge that crosses the ray's band well to the right of the point is crossed, one well to
-//               its left is missed
+//            2  TestNearEdge: an edge that crosses the ray's band well to the right of the point is crossed, one well
+//               to its left is missed
 //            3  TestEdge: what is left, by the stated rule: on, crossed, crossed at its end (PassesLevelAfter), missed
 //            4  parity
 // Why so     Phases 1 and 2 decide only where phase 3 could not decide otherwise: their bands are wider than every
