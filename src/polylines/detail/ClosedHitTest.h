@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/QnBitData.h"
-#include "polylines/detail/BoxLanes.h"
 #include "values/QnGePoint.h"
+#include "values/detail/BoxLanes.h"
 
 class QnGeMLine2d;
 

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "frame/QnGeTolerance.h"
 #include "polylines/QnGeMLine2d.h"
@@ -15,22 +14,6 @@ namespace {
 
 constexpr int LANES = BoxLanes::COUNT;
 constexpr double FLOAT_COORDINATE_LIMIT = 1e30;
-constexpr float FLOAT_INFINITY = std::numeric_limits<float>::infinity();
-constexpr FloatBox EMPTY_BOX = {FLOAT_INFINITY, FLOAT_INFINITY, -FLOAT_INFINITY, -FLOAT_INFINITY};
-
-FloatBox HullOfLanes(const BoxLanes& lanes) {
-    FloatBox hull = EMPTY_BOX;
-    for (int lane = 0; lane < LANES; ++lane) {
-        hull = hull.With(lanes.GetBox(lane));
-    }
-    return hull;
-}
-
-void ClearLanes(BoxLanes& lanes) {
-    for (int lane = 0; lane < LANES; ++lane) {
-        lanes.SetBox(lane, EMPTY_BOX);
-    }
-}
 
 }  // namespace
 
@@ -93,15 +76,15 @@ void OutlineIndex::MakeUpperLevels() {
     long boxes = GetBlockNum();
     for (int level = 1; level <= m_levelNum; ++level) {
         BoxLanes* const lanes = &m_upper[m_levelStart[level]];
-        ClearLanes(lanes[(boxes - 1) / LANES]);
+        lanes[(boxes - 1) / LANES].Clear();
         for (long i = 0; i < boxes; ++i) {
-            const FloatBox box = level == 1 ? GetBlockBox(i) : HullOfLanes(m_upper[m_levelStart[level - 1] + i]);
+            const FloatBox box = level == 1 ? GetBlockBox(i) : m_upper[m_levelStart[level - 1] + i].GetHull();
             lanes[i / LANES].SetBox(static_cast<int>(i % LANES), box);
         }
         boxes = (boxes - 1) / LANES + 1;
     }
 
-    m_hull = HullOfLanes(GetLanes(m_levelNum, 0));
+    m_hull = GetLanes(m_levelNum, 0).GetHull();
 }
 
 void OutlineIndex::MakeEdgeBoxes(long block) {
@@ -110,7 +93,7 @@ void OutlineIndex::MakeEdgeBoxes(long block) {
     const long first = block * LANES;
     const long count = std::min<long>(LANES, m_edgeNum - first);
     if (count < LANES) {
-        ClearLanes(lanes);
+        lanes.Clear();
     }
     for (long k = 0; k < BlockVertices::SPACE; ++k) {
         const QnGePoint& vertex = k == 0 ? m_vertices[first] : GetEdgeEnd(first + std::min(k, count) - 1);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <limits>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -9,12 +10,18 @@
 
 namespace qn_detail {
 
-/// An axis-parallel box in the float frame of an OutlineIndex.
+/// An axis-parallel box in the float frame of an index: relative to a centre near what is indexed.
 struct FloatBox {
     float x0;
     float y0;
     float x1;
     float y1;
+
+    /// Meets nothing finite; the neutral box of With.
+    static constexpr FloatBox Empty() {
+        constexpr float FAR_OUT = std::numeric_limits<float>::infinity();
+        return {FAR_OUT, FAR_OUT, -FAR_OUT, -FAR_OUT};
+    }
 
     /// The box grown by `d` on all sides.
     FloatBox Widened(float d) const { return {x0 - d, y0 - d, x1 + d, y1 + d}; }
@@ -44,6 +51,22 @@ struct alignas(16) BoxLanes {
         y0[lane] = box.y0;
         x1[lane] = box.x1;
         y1[lane] = box.y1;
+    }
+
+    /// Makes all lanes empty.
+    void Clear() {
+        for (int lane = 0; lane < COUNT; ++lane) {
+            SetBox(lane, FloatBox::Empty());
+        }
+    }
+
+    /// The hull of all lanes.
+    FloatBox GetHull() const {
+        FloatBox hull = FloatBox::Empty();
+        for (int lane = 0; lane < COUNT; ++lane) {
+            hull = hull.With(GetBox(lane));
+        }
+        return hull;
     }
 
     /// Bit k is set if the box in lane k meets `box`; touching counts.
