@@ -195,6 +195,55 @@ TEST(DataFiles, BrokenTablesAreNamed) {
               "1: no row has '2' in column 'a'");
 }
 
+// ---- linework, drawings, points, boxes -----------------------------------------------------------
+
+TEST(DataFiles, LinesAreOpenAndKeepTheirOrder) {
+    const TextFile file("line 2\n0 0\n3 4\n\nline 3\n1 1\n2 2\n1 1\n");
+    const std::vector<QnGeMLine2d> lines = data_files::ReadLines(file.Path());
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(lines[0].Length(), 5.0);
+    EXPECT_EQ(lines[1].GetVertexNum(), 3);
+    EXPECT_FALSE(lines[1].HasBit(OBJ_CLOSED));
+    const auto read = [](const std::string& path) { data_files::ReadLines(path); };
+    EXPECT_EQ(ErrorOf("ring 3\n", read), "1: expected 'line <n>', found 'ring 3'");
+    EXPECT_EQ(ErrorOf("line 1\n0 0\n", read), "1: expected a line of at least 2 vertices, found 'line 1'");
+    EXPECT_EQ(ErrorOf("# nothing\n", read), "2: expected 'line <n>', found the end of the file");
+}
+
+TEST(DataFiles, DrawingsHaveNamesAndCurves) {
+    const TextFile file("drawing a\ncurve 2\nvertex 0 0 3.141592653589793\nvertex 2 0 0\n\ndrawing b\n");
+    const std::vector<data_files::ArcDrawing> drawings = data_files::ReadArcDrawings(file.Path());
+    ASSERT_EQ(drawings.size(), 2u);
+    EXPECT_EQ(drawings[0].name, "a");
+    ASSERT_EQ(drawings[0].curves.size(), 1u);
+    EXPECT_NEAR(drawings[0].curves[0].Length(), 3.141592653589793, 1e-15);
+    EXPECT_TRUE(drawings[1].curves.empty());
+    const auto read = [](const std::string& path) { data_files::ReadArcDrawings(path); };
+    EXPECT_EQ(ErrorOf("curve 2\n", read), "1: expected 'drawing <name>', found 'curve 2'");
+    EXPECT_EQ(ErrorOf("drawing a\ncurv 2\n", read), "2: expected 'curve <n>', found 'curv 2'");
+}
+
+TEST(DataFiles, PointsHaveTwoOrThreeNumbersAndBoxesFour) {
+    const TextFile pointFile("# comment\n1 2\n3 4 5\n");
+    const std::vector<QnGePoint> points = data_files::ReadPoints(pointFile.Path());
+    ASSERT_EQ(points.size(), 2u);
+    EXPECT_EQ(points[0].z, 0.0);
+    EXPECT_EQ(points[1].z, 5.0);
+    const auto readPoints = [](const std::string& path) { data_files::ReadPoints(path); };
+    EXPECT_EQ(ErrorOf("1\n", readPoints), "1: expected 'x y' or 'x y z', found '1'");
+    EXPECT_EQ(ErrorOf("1 2 x\n", readPoints), "1: expected 'x y' or 'x y z', found '1 2 x'");
+    const auto readBoxes = [](const std::string& path) { data_files::ReadBoxes(path); };
+    EXPECT_EQ(ErrorOf("1 2 3 4\n1 2 3\n", readBoxes), "2: expected 'xmin ymin xmax ymax', found '1 2 3'");
+}
+
+TEST(DataFiles, BoxesGiveTheLowCornerFirst) {
+    const TextFile file("1 2 3 5\n");
+    const std::vector<QnGeExtent2d> boxes = data_files::ReadBoxes(file.Path());
+    ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_EQ(boxes[0].GetLength(), 2.0);
+    EXPECT_EQ(boxes[0].GetHeight(), 3.0);
+}
+
 // ---- the files themselves ------------------------------------------------------------------------
 
 TEST(DataFiles, EveryPolygonFileHoldsWhatItsTableSays) {
@@ -229,7 +278,43 @@ TEST(DataFiles, EveryPolygonFileHoldsWhatItsTableSays) {
     }
 }
 
-TEST(DataFiles, EveryFileOfOutlinesSaysItsLicence) {
+TEST(DataFiles, EveryFileOfLinesHoldsWhatItsTableSays) {
+    const CsvTable table(DATA + "/linework/expected_linework.csv");
+    for (std::size_t row = 0; row < table.GetRowNum(); ++row) {
+        SCOPED_TRACE(table.Text(row, "file"));
+        double vertices = 0.0;
+        double length = 0.0;
+        const std::vector<QnGeMLine2d> lines = data_files::ReadLines(DATA + "/" + table.Text(row, "file"));
+        for (const QnGeMLine2d& line : lines) {
+            vertices += static_cast<double>(line.GetVertexNum());
+            length += line.Length();
+        }
+        EXPECT_EQ(static_cast<double>(lines.size()), table.Number(row, "polylines"));
+        EXPECT_EQ(vertices, table.Number(row, "vertices"));
+        EXPECT_NEAR(length, table.Number(row, "total_length"), 1e-12 * length);
+    }
+}
+
+TEST(DataFiles, EveryFileOfBoxesAndPointsHoldsWhatItsTableSays) {
+    const CsvTable boxes(DATA + "/boxes/expected_boxes.csv");
+    const std::vector<QnGeExtent2d> features = data_files::ReadBoxes(DATA + "/boxes/features_world.txt");
+    EXPECT_EQ(static_cast<double>(features.size()), boxes.Number(0, "records"));
+    EXPECT_EQ(static_cast<double>(data_files::ReadPoints(DATA + "/boxes/populated_places.txt").size()),
+              boxes.Number(1, "records"));
+    QnGeExtent2d world = features.front();
+    for (const QnGeExtent2d& box : features) {
+        world += box;
+    }
+    EXPECT_EQ(world.x.min, boxes.Number(0, "xmin"));
+    EXPECT_EQ(world.y.max, boxes.Number(0, "ymax"));
+    const CsvTable terrain(DATA + "/terrain/expected_terrain.csv");
+    for (std::size_t row = 0; row < terrain.GetRowNum(); ++row) {
+        const std::vector<QnGePoint> points = data_files::ReadPoints(DATA + "/" + terrain.Text(row, "file"));
+        EXPECT_EQ(static_cast<double>(points.size()), terrain.Number(row, "points")) << terrain.Text(row, "file");
+    }
+}
+
+TEST(DataFiles, EveryFileSaysItsLicence) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator(DATA)) {
         if (entry.path().extension() != ".txt") {
             continue;

@@ -15,7 +15,8 @@ namespace data_files {
 namespace {
 
 constexpr std::size_t MIN_STRAIGHT_RING = 3;
-constexpr std::size_t MIN_BULGED_RING = 2;   // two half circles
+constexpr std::size_t MIN_BULGED_RING = 2;  // two half circles
+constexpr std::size_t MIN_LINE = 2;
 constexpr std::size_t MAX_RING = 100000000;  // a larger count is a damaged number, not a ring
 constexpr std::size_t QUOTED_LENGTH = 40;
 
@@ -98,15 +99,15 @@ private:
     bool m_atEnd = false;
 };
 
-/// The `n` of the line `ring <n>` on which the reader stands.
-std::size_t ParseRingLine(const LineReader& reader, std::size_t least) {
+/// The `n` of the line `<keyword> <n>` on which the reader stands.
+std::size_t ParseCountLine(const LineReader& reader, const std::string& keyword, std::size_t least) {
     const std::vector<std::string> words = SplitWords(reader.Text());
     const std::optional<std::size_t> count = words.size() == 2 ? ParseCount(words[1]) : std::nullopt;
-    if (words.empty() || words[0] != "ring" || !count) {
-        reader.FailExpected("'ring <n>'");
+    if (words.empty() || words[0] != keyword || !count) {
+        reader.FailExpected("'" + keyword + " <n>'");
     }
     if (*count < least) {
-        reader.FailExpected("a ring of at least " + std::to_string(least) + " vertices");
+        reader.FailExpected("a " + keyword + " of at least " + std::to_string(least) + " vertices");
     }
     return *count;
 }
@@ -133,28 +134,46 @@ std::vector<double> ReadVertex(LineReader& reader, const std::string& keyword, c
 
 // The count of a damaged file is not believed before its vertices are there: rings grow vertex by vertex.
 
-QnGeMLine2d ReadStraightRing(LineReader& reader) {
-    const std::size_t count = ParseRingLine(reader, MIN_STRAIGHT_RING);
+QnGeMLine2d ReadStraightLine(LineReader& reader, const std::string& keyword, bool closed) {
+    const std::size_t count = ParseCountLine(reader, keyword, closed ? MIN_STRAIGHT_RING : MIN_LINE);
     std::vector<QnGePoint> points;
     for (std::size_t i = 0; i < count; ++i) {
         const std::vector<double> xy = ReadVertex(reader, "", "x y", 2, i, count);
         points.emplace_back(xy[0], xy[1]);
     }
-    QnGeMLine2d ring(static_cast<long>(count), true);
+    QnGeMLine2d line(static_cast<long>(count), closed);
     for (std::size_t i = 0; i < count; ++i) {
-        ring.SetVertex(static_cast<long>(i), points[i]);
+        line.SetVertex(static_cast<long>(i), points[i]);
     }
-    return ring;
+    return line;
 }
 
-QnGePolyline2d ReadBulgedRing(LineReader& reader) {
-    const std::size_t count = ParseRingLine(reader, MIN_BULGED_RING);
-    QnGePolyline2d ring(0, true);
+QnGePolyline2d ReadBulgedLine(LineReader& reader, const std::string& keyword, bool closed) {
+    const std::size_t count = ParseCountLine(reader, keyword, closed ? MIN_BULGED_RING : MIN_LINE);
+    QnGePolyline2d line(0, closed);
     for (std::size_t i = 0; i < count; ++i) {
         const std::vector<double> vertex = ReadVertex(reader, "vertex", "vertex x y bulge", 3, i, count);
-        ring.AppendVertex(QnGePoint(vertex[0], vertex[1]), vertex[2]);
+        line.AppendVertex(QnGePoint(vertex[0], vertex[1]), vertex[2]);
     }
-    return ring;
+    return line;
+}
+
+/// The numbers of the line on which the reader stands; their count must be from `least` to `most`.
+std::vector<double> ParseNumbers(const LineReader& reader, const std::string& form, std::size_t least,
+                                 std::size_t most) {
+    const std::vector<std::string> words = SplitWords(reader.Text());
+    std::vector<double> values;
+    for (const std::string& word : words) {
+        const std::optional<double> value = ParseNumber(word);
+        if (!value) {
+            reader.FailExpected("'" + form + "'");
+        }
+        values.push_back(*value);
+    }
+    if (values.size() < least || values.size() > most) {
+        reader.FailExpected("'" + form + "'");
+    }
+    return values;
 }
 
 /// The cells of one line of a table; none if a quote is not closed.
@@ -194,7 +213,7 @@ std::vector<Polygon> ReadPolygons(const std::string& path) {
             startsPolygon = true;
             continue;
         }
-        QnGeMLine2d ring = ReadStraightRing(reader);
+        QnGeMLine2d ring = ReadStraightLine(reader, "ring", true);
         if (startsPolygon) {
             polygons.emplace_back();
             startsPolygon = false;
@@ -225,7 +244,7 @@ std::vector<ArcShape> ReadArcShapes(const std::string& path) {
             if (shapes.empty()) {
                 reader.FailExpected("'shape <name>'");
             }
-            QnGePolyline2d ring = ReadBulgedRing(reader);
+            QnGePolyline2d ring = ReadBulgedLine(reader, "ring", true);
             if (startsPolygon) {
                 shapes.back().polygons.emplace_back();
                 startsPolygon = false;
@@ -237,6 +256,70 @@ std::vector<ArcShape> ReadArcShapes(const std::string& path) {
         reader.FailExpected("'shape <name>'");
     }
     return shapes;
+}
+
+std::vector<QnGeMLine2d> ReadLines(const std::string& path) {
+    LineReader reader(path);
+    std::vector<QnGeMLine2d> lines;
+    while (reader.Next()) {
+        if (!reader.Text().empty()) {
+            lines.push_back(ReadStraightLine(reader, "line", false));
+        }
+    }
+    if (lines.empty()) {
+        reader.FailExpected("'line <n>'");
+    }
+    return lines;
+}
+
+std::vector<ArcDrawing> ReadArcDrawings(const std::string& path) {
+    LineReader reader(path);
+    std::vector<ArcDrawing> drawings;
+    while (reader.Next()) {
+        const std::vector<std::string> words = SplitWords(reader.Text());
+        if (words.size() == 2 && words[0] == "drawing") {
+            drawings.push_back({words[1], {}});
+        } else if (!words.empty()) {
+            if (drawings.empty()) {
+                reader.FailExpected("'drawing <name>'");
+            }
+            drawings.back().curves.push_back(ReadBulgedLine(reader, "curve", false));
+        }
+    }
+    if (drawings.empty()) {
+        reader.FailExpected("'drawing <name>'");
+    }
+    return drawings;
+}
+
+std::vector<QnGePoint> ReadPoints(const std::string& path) {
+    LineReader reader(path);
+    std::vector<QnGePoint> points;
+    while (reader.Next()) {
+        if (!reader.Text().empty()) {
+            const std::vector<double> xyz = ParseNumbers(reader, "x y' or 'x y z", 2, 3);
+            points.emplace_back(xyz[0], xyz[1], xyz.size() == 3 ? xyz[2] : 0.0);
+        }
+    }
+    if (points.empty()) {
+        reader.FailExpected("'x y' or 'x y z'");
+    }
+    return points;
+}
+
+std::vector<QnGeExtent2d> ReadBoxes(const std::string& path) {
+    LineReader reader(path);
+    std::vector<QnGeExtent2d> boxes;
+    while (reader.Next()) {
+        if (!reader.Text().empty()) {
+            const std::vector<double> ends = ParseNumbers(reader, "xmin ymin xmax ymax", 4, 4);
+            boxes.emplace_back(ends[0], ends[2], ends[1], ends[3]);
+        }
+    }
+    if (boxes.empty()) {
+        reader.FailExpected("'xmin ymin xmax ymax'");
+    }
+    return boxes;
 }
 
 CsvTable::CsvTable(const std::string& path) : m_path(path) {

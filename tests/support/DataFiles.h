@@ -9,6 +9,8 @@
 
 #include "polylines/QnGeMLine2d.h"
 #include "polylines/QnGePolyline2d.h"
+#include "values/QnGeExtent2d.h"
+#include "values/QnGePoint.h"
 
 /// Readers of the plain text files in examples/data. Lines that begin with '#' are comments.
 ///
@@ -45,6 +47,23 @@ struct ArcShape {
 ///
 /// Units  Bulges as in QnGePolyline2d: the signed central angle in radians.
 std::vector<ArcShape> ReadArcShapes(const std::string& path);
+
+/// The open lines of a file of linework: `line <n>`, then n lines `x y`. A line that closes repeats its first point.
+std::vector<QnGeMLine2d> ReadLines(const std::string& path);
+
+struct ArcDrawing {
+    std::string name;
+    std::vector<QnGePolyline2d> curves;  ///< open; a curve that closes repeats its first point
+};
+
+/// The drawings of a file of loose curves: `drawing <name>`, then per curve `curve <n>` and n lines `vertex x y bulge`.
+std::vector<ArcDrawing> ReadArcDrawings(const std::string& path);
+
+/// The points of a file of places or of survey points: `x y` or `x y z` on each line.
+std::vector<QnGePoint> ReadPoints(const std::string& path);
+
+/// The boxes of a file: `xmin ymin xmax ymax` on each line.
+std::vector<QnGeExtent2d> ReadBoxes(const std::string& path);
 
 /// A table with a line of column names. A cell in double quotes may hold commas; a doubled quote in it is one quote.
 class CsvTable {
