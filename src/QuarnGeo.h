@@ -54,6 +54,7 @@
 #include "curves2d/QnGeArc2d.h"
 #include "curves2d/QnGeCircle2d.h"
 #include "curves2d/QnGeCurve2d.h"
+#include "curves2d/QnGeCurveCoordSys.h"
 #include "curves2d/QnGeCurvePa.h"
 #include "curves2d/QnGeCurvePaWithPt.h"
 #include "curves2d/QnGeEArc2d.h"

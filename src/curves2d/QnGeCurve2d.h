@@ -139,9 +139,10 @@ public:
     /// The step in Pa that MLinearize takes by itself.
     virtual double GetMLinePrec() const;
 
-    /// The curve that carries the same geometry past the ends.
+    /// The curve that carries the same geometry past the ends: a clone of a closed or infinite curve, else by default a
+    /// chain of the curve and a ray along the tangent at each end that exists.
     ///
-    /// Fails  Null unless the curve is closed or infinite; then it is a clone.
+    /// Fails  Null where a class has no such curve.
     virtual QnGeCurve2d* GetExtendCurve() const;
 
     /// Cuts `obj` with this curve as the knife and sorts the pieces; neither of the two changes.
@@ -210,21 +211,46 @@ public:
     /// Tolerance  g_distZero.
     bool IsConnectWith(const QnGeCurve2d& next) const;
 
-    /// Makes this curve's end and the start of `next` one point. Always false.
+    /// Makes this curve's end and the start of `next` one point, by moving both to where the extensions meet.
+    ///
+    /// Fails     False where they are not connected afterwards.
+    /// Kept odd  One of the two may have moved all the same.
     bool ConnectWith(QnGeCurve2d& next);
 
-    /// Lengthens one end up to the nearest or farthest of the objects. Always ETR_FAILED.
+    // ---- moving an end: the start if `atStart`, otherwise the end. The other end stays. -----------
+    // Whatever the answer but ETR_DONE, the curve is as it was. A class whose CopyFrom refuses what is left of it ends
+    // in ETR_FAILED: a circle, of which an arc is left, a chain, a ray that would become a segment.
+
+    /// Lengthens the curve up to the nearest or farthest point at which its extension meets an object.
+    ///
+    /// Tolerance  g_fZero in Pa of the extension: an object at the end itself does not count.
+    /// Fails      ETR_FAILED where there is no extension or the end does not exist; ETR_NO_VALID_POINT where nothing is
+    ///            met beyond the end but along a stretch.
+    /// Kept odd   On a closed extension, such as an arc's, every point counts and near and far are told from the end
+    ///            that stays: the curve may become shorter.
     ExtendTrimResult Extend(const QnGeObjList& objs, bool atStart, bool nearest);
     ExtendTrimResult Extend(const QnGeObject& obj, bool atStart, bool nearest);
 
-    /// Cuts one end back to the objects. Always ETR_FAILED.
+    /// Cuts the end back to the first point at which the curve meets an object, the start to the last.
+    ///
+    /// Kept odd  The ends count as Pa 0 and 1 whatever the parameter of the class is.
     ExtendTrimResult Trim(const QnGeObjList& objs, bool atStart);
     ExtendTrimResult Trim(const QnGeObject& obj, bool atStart);
 
-    /// Moves one end to a meeting point with the objects, wherever it lies. Always ETR_FAILED.
+    /// Moves the end, outward or inward, to a point at which the curve's extension meets an object.
+    ///
+    /// `pickMode` 1 takes the point nearest to the end that stays, 0 the farthest, any other the one closest to the end
+    /// that moves. Of several objects each offers only its point closest to the end that moves.
+    ///
+    /// Tolerance  g_fZero in Pa of the extension: a point at the end that stays does not count.
+    /// Fails      ETR_FAILED where there is no extension. An end that does not exist is no failure.
     ExtendTrimResult Connect(const QnGeObjList& objs, bool atStart, int pickMode);
     ExtendTrimResult Connect(const QnGeObject& obj, bool atStart, int pickMode);
 };
 
-/// Makes the named ends of two curves one point. Always false; the curves stay as they were.
+/// Makes the named ends of two curves one point, by moving both to where the extensions meet.
+///
+/// Tolerance  g_distZero in the plan; ends that near are one point already, and nothing changes.
+/// Fails      False, and the curves stay as they were, where they do not meet, or where one would turn round at that end
+///            or grow to more than five times its length.
 QUARNGEO_API bool ConnectCurveSeg(QnGeCurve2d* a, QnGeCurve2d* b, bool atStartA, bool atStartB);

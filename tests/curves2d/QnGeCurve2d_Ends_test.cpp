@@ -35,30 +35,3 @@ TEST(QnGeCurve2d_Ends, AnEndThatDoesNotExistConnectsWithNothing) {
     EXPECT_FALSE(IsConnected("seg 0,0 4,0", "line 4,0 0,1"));
     EXPECT_FALSE(IsConnected("seg 0,0 4,0", "circle 2,0 r2")) << "a circle has no start";
 }
-
-TEST(QnGeCurve2d_Ends, NothingIsExtendedTrimmedOrConnected) {
-    QnGeObjList objs;
-    ParseGeoList("line 6,-1 0,1; line 2,-1 0,1", objs);
-    const QnGeObject& one = *objs.GetAt(0);
-    for (const char* text : {"seg 0,0 4,0", "ray 0,0 1,0", "arc 0,0 r9 from 4 sweep 1"}) {
-        const auto curve = ParseGeoAs<QnGeCurve2d>(text);
-        for (const bool atStart : {true, false}) {
-            EXPECT_EQ(curve->Extend(objs, atStart, true), QnGeCurve2d::ETR_FAILED) << text;
-            EXPECT_EQ(curve->Extend(one, atStart, false), QnGeCurve2d::ETR_FAILED) << text;
-            EXPECT_EQ(curve->Trim(objs, atStart), QnGeCurve2d::ETR_FAILED) << text;
-            EXPECT_EQ(curve->Trim(one, atStart), QnGeCurve2d::ETR_FAILED) << text;
-            EXPECT_EQ(curve->Connect(objs, atStart, 0), QnGeCurve2d::ETR_FAILED) << text;
-            EXPECT_EQ(curve->Connect(one, atStart, 0), QnGeCurve2d::ETR_FAILED) << text;
-        }
-        ExpectGeo(*curve, text, 0.0);
-    }
-}
-
-TEST(QnGeCurve2d_Ends, NoTwoEndsAreMadeOnePoint) {
-    const auto first = ParseGeoAs<QnGeCurve2d>("seg 0,0 4,0");
-    const auto second = ParseGeoAs<QnGeCurve2d>("seg 5,1 5,9");
-    EXPECT_FALSE(first->ConnectWith(*second));
-    EXPECT_FALSE(ConnectCurveSeg(first.get(), second.get(), false, true));
-    ExpectGeo(*first, "seg 0,0 4,0", 0.0);
-    ExpectGeo(*second, "seg 5,1 5,9", 0.0);
-}
