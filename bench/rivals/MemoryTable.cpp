@@ -16,6 +16,8 @@
 #include "rivals/Table.h"
 #include "rivals/Tables.h"
 #include "support/CrossingCount.h"
+#include "support/RandomSets.h"
+#include "terrain/QnGeTINGraph.h"
 
 namespace {
 
@@ -23,6 +25,8 @@ constexpr double KIBI = 1024.0;
 constexpr double MOST_BYTES_EACH = 400.0;  ///< for each vertex and crossing
 constexpr double POINT_BYTES = 24.0;       ///< three doubles
 constexpr long POLYGON_VERTICES = 1000000;
+constexpr double MOST_NETWORK_BYTES_EACH = 600.0;
+constexpr long NETWORK_POINTS = 1000000;
 
 /// A field of the process's status in bytes, 0 where the system has none.
 double ReadStatus(const char* field) {
@@ -103,6 +107,30 @@ double GetPolygonBytesEach() {
     return (two - one) / static_cast<double>(POLYGON_VERTICES);
 }
 
+double GetNetworkPeak(const std::vector<QnGePoint>& points) {
+    ResetPeak();
+    const double before = GetResident();
+    QnGeTINGraph graph;
+    for (const QnGePoint& point : points) {
+        graph.NodeList.Append(new QnGeTINNode(point));
+    }
+    graph.MakeTIN();
+    return GetPeak() - before;
+}
+
+/// The answer is whether a network of uniform points keeps to its share.
+bool PrintNetworkMemory(const Options& options) {
+    const long n = options.isQuick ? NETWORK_POINTS / 10 : NETWORK_POINTS;
+    const std::vector<QnGePoint> points = MakePoints(PointKind::UNIFORM, n);
+    const double bytesEach = AskChild([&] { return GetNetworkPeak(points); }) / static_cast<double>(n);
+    const bool isGood = bytesEach > 0.0 && bytesEach <= MOST_NETWORK_BYTES_EACH;
+    std::printf(
+        "A network of %s uniform points takes %.0f bytes a point at its peak, its tree and its making included: "
+        "%s.\n\n",
+        FormatCount(n).c_str(), bytesEach, isGood ? "within 600" : "NOT within 600");
+    return isGood;
+}
+
 }  // namespace
 
 bool RunMemory(const Options& options) {
@@ -124,5 +152,5 @@ bool RunMemory(const Options& options) {
     std::printf("\nA polygon holds %.1f bytes a vertex.\n", polygonEach);
     isGood = isGood && polygonEach < POINT_BYTES + 0.1;
     std::printf("Within %.0f bytes for each vertex and crossing: %s.\n\n", MOST_BYTES_EACH, isGood ? "yes" : "NO");
-    return isGood;
+    return PrintNetworkMemory(options) && isGood;
 }

@@ -11,8 +11,8 @@ constexpr int BAD_USAGE = 2;
 
 [[noreturn]] void ShowUsage() {
     std::fprintf(stderr,
-                 "usage: rivals [--quick] [--only booleans|hits|memory] [--without NAME]...\n"
-                 "  --quick          outlines of up to 10,000 vertices instead of 100,000\n"
+                 "usage: rivals [--quick] [--only booleans|hits|memory|noding|networks|boxes] [--without NAME]...\n"
+                 "  --quick          sets of a tenth of the largest size\n"
                  "  --only PART      one of the tables\n"
                  "  --without NAME   leaves a rival out: GEOS, Boost, CGAL, Clipper\n");
     std::exit(BAD_USAGE);
@@ -22,7 +22,11 @@ void SelectPart(const std::string& part, Options& options) {
     options.doesBooleans = part == "booleans";
     options.doesHits = part == "hits";
     options.doesMemory = part == "memory";
-    if (!options.doesBooleans && !options.doesHits && !options.doesMemory) {
+    options.doesNoding = part == "noding";
+    options.doesNetworks = part == "networks";
+    options.doesBoxes = part == "boxes";
+    if (!options.doesBooleans && !options.doesHits && !options.doesMemory && !options.doesNoding &&
+        !options.doesNetworks && !options.doesBoxes) {
         ShowUsage();
     }
 }

@@ -6,10 +6,13 @@
 
 /// What the command line asks for.
 struct Options {
-    bool isQuick = false;  ///< outlines of up to 10,000 vertices instead of 100,000
+    bool isQuick = false;  ///< sets of a tenth of the largest size
     bool doesBooleans = true;
     bool doesHits = true;
     bool doesMemory = true;
+    bool doesNoding = true;
+    bool doesNetworks = true;
+    bool doesBoxes = true;
     std::vector<std::string> leftOut;  ///< names of rivals that do not take part
 
     long GetMostVertices() const { return isQuick ? 10000 : 100000; }

@@ -9,6 +9,7 @@
 #include <cstdio>
 
 #include "rivals/Machine.h"
+#include "rivals/SpatialTables.h"
 #include "rivals/Tables.h"
 
 namespace {
@@ -44,6 +45,24 @@ Engines MakeEngines(const Options& options) {
     return engines;
 }
 
+SpatialEngines MakeSpatialEngines(const Options& options) {
+    SpatialEngines engines;
+    AddQuarnSpatial(engines);
+#ifdef QUARN_HAS_GEOS
+    AddGeosSpatial(engines);
+#endif
+#ifdef QUARN_HAS_BOOST
+    AddBoostSpatial(engines);
+#endif
+#ifdef QUARN_HAS_CGAL
+    AddCgalSpatial(engines);
+#endif
+    RemoveLeftOut(options, engines.noders);
+    RemoveLeftOut(options, engines.networks);
+    RemoveLeftOut(options, engines.boxes);
+    return engines;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -53,5 +72,9 @@ int main(int argc, char** argv) {
     const Engines engines = MakeEngines(options);
     const bool isFast = !options.doesBooleans || RunBooleans(engines, options);
     const bool isHitting = !options.doesHits || RunHits(engines, options);
-    return isLean && isFast && isHitting ? 0 : 1;
+    const SpatialEngines spatial = MakeSpatialEngines(options);
+    const bool isBreaking = !options.doesNoding || RunNoding(spatial, options);
+    const bool isJoining = !options.doesNetworks || RunNetworks(spatial, options);
+    const bool isFinding = !options.doesBoxes || RunBoxes(spatial, options);
+    return isLean && isFast && isHitting && isBreaking && isJoining && isFinding ? 0 : 1;
 }
