@@ -187,6 +187,5 @@ public:
     bool OffsetSeg(long i, double dist);
 
 private:
-    void AppendClone(const QnGeCurve2d& curve);
     void AppendClones(const QnGeMCurve2d& other);
 };

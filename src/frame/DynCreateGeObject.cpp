@@ -6,6 +6,7 @@
 #include "curves2d/QnGeLine2d.h"
 #include "curves2d/QnGeLineRay2d.h"
 #include "curves2d/QnGeLineSeg2d.h"
+#include "curves2d/QnGeMCurve2d.h"
 #include "polylines/QnGeMLine2d.h"
 #include "polylines/QnGePolyline2d.h"
 #include "regions/QnGeGeneralPolygon2d.h"
@@ -32,6 +33,8 @@ QnGeObject* DynCreateGeObject(int classId) {
             return new QnGeMLine2d(0, false);
         case CLASS_ID_POLYLINE2D:
             return new QnGePolyline2d(0, false);
+        case CLASS_ID_MCURVE2D:
+            return new QnGeMCurve2d();
         case CLASS_ID_POLYGON2D:
             return new QnGePolygon2d(0);
         case CLASS_ID_GENERAL_POLYGON2D:

@@ -4,18 +4,12 @@
 #include "base/QnStream.h"
 #include "curves2d/QnGeCurve2d.h"
 #include "frame/DynCreateGeObject.h"
+#include "frame/detail/EntryRecords.h"
 #include "objects3d/QnGeCurve3d.h"
 #include "objects3d/QnGeFace3d.h"
 #include "objects3d/QnGeSolid3d.h"
 #include "regions/QnGeRegion2d.h"
 #include "values/QnGeMatrix.h"
-
-namespace {
-
-// No class has this id: it stands in a stream for an entry without an object.
-constexpr long NO_CLASS_ID = 0;
-
-}  // namespace
 
 QnGeObjList::QnGeObjList(const QnGeObject& object) {
     Append(object.Clone());
@@ -96,15 +90,7 @@ void QnGeObjList::IntersectWith(const QnGeObject& other, QnGeObjList& result) co
 }
 
 void QnGeObjList::StreamOut(QnStream& stream) const {
-    stream << GetLength();
-    for (QnGeObject* const* entry = GetFirst(); entry != nullptr; entry = GetNext(entry)) {
-        if (*entry == nullptr) {
-            stream << NO_CLASS_ID;
-            continue;
-        }
-        stream << (*entry)->GetClassID();
-        (*entry)->StreamOut(stream);
-    }
+    qn_detail::StreamOutEntries(*this, stream);
 }
 
 void QnGeObjList::StreamIn(QnStream& stream) {
@@ -121,7 +107,7 @@ void QnGeObjList::ReadEntries(QnStream& stream, bool keepGaps) {
     long count = 0;
     stream >> count;
     for (long i = 0; i < count; ++i) {
-        long classId = NO_CLASS_ID;
+        long classId = qn_detail::NO_CLASS_ID;
         stream >> classId;
         QnGeObject* object = DynCreateGeObject(static_cast<int>(classId));
         if (object != nullptr) {

@@ -88,7 +88,12 @@ public:
     void StreamIn(QnStream& stream) override;
     void StreamOut(QnStream& stream) const override;
 
-    /// Null: no simpler object is found.
+    /// A simpler object of the same shape: the only segment that has a length, the line with neighbours that run on
+    /// merged, or a QnGePoint2d at vertex 0 where no segment has a length.
+    ///
+    /// Ownership  The caller's.
+    /// Fails      Null where nothing merges, and of an empty line.
+    /// Kept odd   A line whose ends coincide comes out closed. The result is a QnGePolyline2d only where an arc is left.
     QnGeObject* Symplify() const override;
 
     /// Sets z of every vertex; GetElevation answers that of vertex 0, 0 when empty.
@@ -142,7 +147,9 @@ public:
     QnGeMLine2d* MLinearize(double prec) const override;
     /// The linearisations of the segments by distance, joined. Both flags of the segments' own operation are passed on.
     QnGeMLine2d* MLinearizeByDist(double step, bool skipVertical) const override;
-    /// Leaves the line as it is.
+    /// Merges neighbours that run on and drops segments without a length; a line without any other stays as it is.
+    ///
+    /// Kept odd  As Symplify.
     void Compress() override;
     /// False, the line stays as it is.
     bool Offset(double dist) override;

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "curves2d/QnGeMCurve2d.h"
+
+namespace qn_detail {
+
+// Children are reached without moving the chain's cursor, so that a caller's own walk over the chain survives every
+// question he asks it.
+
+/// Child `i`, null if there is none.
+///
+/// Cost  Constant for indexes asked for in order.
+inline QnGeCurve2d* ChildAt(const QnGeMCurve2d& chain, long i) {
+    return chain.IsValidIndex(i) ? chain.GetAt(i) : nullptr;
+}
+
+/// Shows the children from `first` to before `end` to `visit`, which takes the child and its index and answers whether
+/// to go on. Null entries are passed over.
+template <class Visit>
+void ForEachChild(const QnGeMCurve2d& chain, long first, long end, Visit visit) {
+    if (first >= end) {
+        return;
+    }
+    QnGeCurve2d* const* entry = &chain.GetAt(first);
+    for (long i = first; i < end && entry != nullptr; ++i) {
+        if (*entry != nullptr && !visit(**entry, i)) {
+            return;
+        }
+        entry = chain.GetNext(entry);
+    }
+}
+
+template <class Visit>
+void ForEachChild(const QnGeMCurve2d& chain, Visit visit) {
+    ForEachChild(chain, 0, chain.GetSegNum(), visit);
+}
+
+/// Gives a chain a clone of `curve`, unless it is of a class that cannot be cloned.
+inline void AppendCloneTo(QnGeMCurve2d& chain, const QnGeCurve2d& curve) {
+    QnGeObject* const clone = curve.Clone();
+    if (clone != nullptr) {
+        chain.Append(static_cast<QnGeCurve2d*>(clone));
+    }
+}
+
+}  // namespace qn_detail
