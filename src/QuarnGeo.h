@@ -69,6 +69,13 @@
 #include "polylines/QnGeMLine2d.h"
 #include "polylines/QnGePolyline2d.h"
 
+// Spatial indexes: trees over boxes and points of the plan and of space.
+#include "spatial/QnGeOctree.h"
+#include "spatial/QnGePointQuadTreeLayer2d.h"
+#include "spatial/QnGePtOctree.h"
+#include "spatial/QnGePtQuadTree2d.h"
+#include "spatial/QnGeQuadTree2d.h"
+
 // Regions: polygons and areas with holes, and their booleans.
 #include "regions/QnGeGeneralPolygon2d.h"
 #include "regions/QnGeGeneralRegion2d.h"

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "spatial/QnGeQuadTree2d.h"
+
+#include "spatial/detail/BoxTree.h"
+
+namespace {
+
+using Work = qn_detail::BoxTree<QnGeQuadTree2d, qn_detail::PlanSectors<QnGeQuadTree2d>>;
+
+/// The only child of a node; null if it has none or several.
+QnGeQuadTree2d* LoneChild(const QnGeQuadTree2d& node) {
+    QnGeQuadTree2d* lone = nullptr;
+    for (QnGeQuadTree2d* child : node.Child) {
+        if (child != nullptr && lone != nullptr) {
+            return nullptr;
+        }
+        lone = child != nullptr ? child : lone;
+    }
+    return lone;
+}
+
+}  // namespace
+
+QnGeQuadTree2d::QnGeQuadTree2d() : CenterX(0.0), CenterY(0.0) {
+    Work::MakeEmpty(*this);
+}
+
+QnGeQuadTree2d::~QnGeQuadTree2d() {
+    Work::Reset(*this);
+}
+
+void QnGeQuadTree2d::SetRange(double xMin, double xMax, double yMin, double yMax) {
+    QnGeExtent2d::SetRange(xMin, xMax, yMin, yMax);
+    CenterX = x.GetCenter();
+    CenterY = y.GetCenter();
+}
+
+bool QnGeQuadTree2d::IsEmptyTree() const {
+    return Work::IsEmpty(*this);
+}
+
+void QnGeQuadTree2d::Reset() {
+    Work::Reset(*this);
+}
+
+void QnGeQuadTree2d::Insert(QnGeExtent2d* box) {
+    Work::Insert(*this, box);
+}
+
+void QnGeQuadTree2d::operator+=(QnGeExtent2d* box) {
+    Work::Append(*this, box);
+}
+
+bool QnGeQuadTree2d::Delete(QnGeExtent2d* box, bool deleteObject) {
+    return Work::Delete(*this, box, deleteObject);
+}
+
+void QnGeQuadTree2d::operator-=(QnGeExtent2d* box) {
+    if (Delete(box, false)) {
+        Compress();
+    }
+}
+
+void QnGeQuadTree2d::Compress() {
+    while (ExtentList == nullptr && OneExtent == nullptr) {
+        QnGeQuadTree2d* const child = LoneChild(*this);
+        if (child == nullptr) {
+            return;
+        }
+        Work::PullUp(*this, child);
+    }
+    if (ExtentList == nullptr) {
+        Work::ShrinkToOne(*this);
+    }
+}
+
+void QnGeQuadTree2d::operator>>(QnGeQuadTree2d& target) {
+    Work::MoveTo(*this, target);
+}
+
+void QnGeQuadTree2d::InsertChild(QnGeQuadTree2d* subtree) {
+    Work::InsertChild(*this, subtree);
+}
+
+void QnGeQuadTree2d::HitTest(double px, double py, QnDynArrayBase<QnGeExtent2d*>& result) const {
+    Work::HitPoint(*this, QnGePoint(px, py), result);
+}
+
+void QnGeQuadTree2d::HitTest(const QnGeExtent2d& box, QnDynArrayBase<QnGeExtent2d*>& result) const {
+    Work::HitBox(*this, box, result);
+}
+
+void QnGeQuadTree2d::GetAllExtent(QnDynArrayBase<QnGeExtent2d*>& result) const {
+    Work::GetAllExtent(*this, result);
+}

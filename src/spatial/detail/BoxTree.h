@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cmath>
+
+#include "containers/QnList.h"
+#include "spatial/detail/SectorTree.h"
+
+namespace qn_detail {
+
+/// Names the parts of a box tree.
+template <class ABoxTree, class BoxSectors>
+struct BoxTreeKind {
+    using Tree = ABoxTree;
+    using Item = typename BoxSectors::Box;
+    using Sectors = BoxSectors;
+    static QnList<Item*>*& Items(Tree& tree) { return tree.ExtentList; }
+    static QnList<Item*>* Items(const Tree& tree) { return tree.ExtentList; }
+    static Item*& One(Tree& tree) { return tree.OneExtent; }
+    static Item* One(const Tree& tree) { return tree.OneExtent; }
+};
+
+/// What the box trees of the plan and of space do alike.
+template <class ABoxTree, class BoxSectors>
+struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors>> {
+    using Base = SectorTree<BoxTreeKind<ABoxTree, BoxSectors>>;
+    using Tree = ABoxTree;
+    using Box = typename BoxSectors::Box;
+    using Boxes = QnDynArrayBase<Box*>;
+    using Base::COUNT;
+    using Base::Insert;
+    using Base::IsEmpty;
+    using Base::Reset;
+    using Base::SectorOf;
+
+    // ---- taking out ------------------------------------------------------------------------------
+
+    static bool Delete(Tree& node, Box* box, bool deleteObject) {
+        const int sector = SectorOf(node, *box);
+        if (sector == NO_SECTOR) {
+            return DeleteFromList(node, box, deleteObject);
+        }
+        Tree*& child = node.Child[sector];
+        if (child == nullptr) {
+            return DeleteOne(node, box, deleteObject);
+        }
+        if (!Delete(*child, box, deleteObject)) {
+            return false;
+        }
+        if (IsEmpty(*child)) {
+            delete child;
+            child = nullptr;
+        }
+        return true;
+    }
+
+    static bool DeleteOne(Tree& node, Box* box, bool deleteObject) {
+        if (node.OneExtent == nullptr || !node.OneExtent->IsSameWith(static_cast<const Box*>(box))) {
+            return false;
+        }
+        if (deleteObject) {
+            delete node.OneExtent;
+        }
+        node.OneExtent = nullptr;
+        return true;
+    }
+
+    static bool DeleteFromList(Tree& node, Box* box, bool deleteObject) {
+        if (node.ExtentList == nullptr) {
+            return false;
+        }
+        QnList<Box*>& list = *node.ExtentList;
+        for (list.MoveToFirst(); !list.IsOut(); list.MoveToNext()) {
+            Box* const entry = list.GetCurData();
+            if (entry->IsSameWith(static_cast<const Box*>(box))) {
+                list.DelCur();
+                if (deleteObject) {
+                    delete entry;
+                }
+                if (list.IsEmpty()) {
+                    delete node.ExtentList;
+                    node.ExtentList = nullptr;
+                }
+                return true;
+            }
+        }
+        return false;
+    }
+
+    // ---- levels above ----------------------------------------------------------------------------
+
+    static void MoveTo(Tree& tree, Tree& target) {
+        if (&tree == &target) {
+            return;
+        }
+        BoxSectors::SetRange(target, tree);
+        target.ExtentList = tree.ExtentList;
+        target.OneExtent = tree.OneExtent;
+        for (int i = 0; i < COUNT; ++i) {
+            target.Child[i] = tree.Child[i];
+        }
+        Base::MakeEmpty(tree);
+    }
+
+    /// Puts the contents of a child in the place of the node's own.
+    static void PullUp(Tree& node, Tree* child) {
+        MoveTo(*child, node);
+        delete child;
+    }
+
+    /// The range shrinks to a square about the only box.
+    static void ShrinkToOne(Tree& tree) {
+        Box* const one = tree.OneExtent;
+        Reset(tree);
+        Append(tree, one);
+    }
+
+    /// Hangs `subtree` where its middle and its size belong; false if its middle is on a centre line on the way.
+    static bool InsertChild(Tree& node, Tree* subtree) {
+        const int sector = BoxSectors::Of(node, BoxSectors::MiddleOf(*subtree));
+        if (sector == NO_SECTOR) {
+            return false;
+        }
+        bool isPlaced = true;
+        if (IsGreater(node.GetLength() / 2.0 - subtree->GetLength(), g_distZero)) {
+            isPlaced = InsertChild(Base::ChildAt(node, sector), subtree);
+        } else if (node.Child[sector] != subtree) {
+            delete node.Child[sector];
+            node.Child[sector] = subtree;
+        }
+        if (node.OneExtent != nullptr) {  // no longer alone
+            Box* const one = node.OneExtent;
+            node.OneExtent = nullptr;
+            Insert(node, one);
+        }
+        return isPlaced;
+    }
+
+    // ---- growing ---------------------------------------------------------------------------------
+
+    /// operator+=
+    static void Append(Tree& tree, Box* box) {
+        if (IsEmpty(tree)) {
+            BoxSectors::SetRange(tree, RangeFor(*box, BoxSectors::MiddleOf(*box), 1.0, nullptr));
+        } else if (!tree.IsInside(*box)) {
+            Grow(tree, *box);
+        }
+        Insert(tree, box);
+    }
+
+    /// The range about `middle`, of half side `half` doubled as often as it takes, that holds `box` inside and includes
+    /// `inner`. Without end where a coordinate is; all boxes then stay in the list of the root.
+    static Box RangeFor(const Box& box, const QnGePoint& middle, double half, const Box* inner) {
+        Box range = BoxSectors::BoxAbout(middle, half);
+        while (std::isfinite(half) && !(range.IsInside(box) && (inner == nullptr || range.IsInclude(*inner)))) {
+            half *= 2.0;
+            range = BoxSectors::BoxAbout(middle, half);
+        }
+        return range;
+    }
+
+    /// Makes the range hold `box`.
+    static void Grow(Tree& tree, const Box& box) {
+        const Box old = tree;
+        const double step = old.GetLength();
+        const bool isSquare = !IsGreater(BoxSectors::LongestButX(old) - step, g_distZero);
+        const bool hasStep = IsGreater(step, 2.0 * g_distZero) && std::isfinite(step);
+        QnGePoint middle = BoxSectors::MiddleOf(old + box);
+        if (hasStep) {
+            middle = OnLattice(tree, middle, step);
+        }
+        if (isSquare && hasStep) {
+            const Box range = RangeFor(box, middle, step, nullptr);
+            if (range.IsInclude(old) && GrowBy(tree, range)) {
+                return;
+            }
+        }
+        if (!std::isfinite(step)) {
+            return;  // the root's list has everything, and takes this too
+        }
+        QnList<Box*> boxes;
+        GetAllExtent(tree, boxes);
+        Reset(tree);
+        BoxSectors::SetRange(tree, RangeFor(box, middle, step > 1.0 ? step : 1.0, &old));
+        for (Box* const* entry = boxes.GetFirst(); entry != nullptr; entry = boxes.GetNext(entry)) {
+            Insert(tree, *entry);
+        }
+    }
+
+    /// The corner of the lattice of old ranges next to `middle`, on the side of the tree.
+    static QnGePoint OnLattice(const Tree& tree, const QnGePoint& middle, double step) {
+        const QnGePoint centre = BoxSectors::CentreOf(tree);
+        const QnGePoint low = tree.GetMinPoint();
+        const QnGePoint high = tree.GetMaxPoint();
+        QnGePoint corner = middle;
+        for (int axis = 0; axis < 3; ++axis) {
+            const double anchor = centre[axis] < middle[axis] ? high[axis] : low[axis];
+            corner[axis] = std::trunc((middle[axis] - anchor) / step) * step + anchor;
+        }
+        return corner;
+    }
+
+    /// Takes `range` and hangs what was here below. False, with everything as it was, if it has no place there.
+    static bool GrowBy(Tree& tree, const Box& range) {
+        Tree* const former = new Tree;
+        MoveTo(tree, *former);
+        BoxSectors::SetRange(tree, range);
+        if (InsertChild(tree, former)) {
+            return true;
+        }
+        Reset(tree);
+        PullUp(tree, former);
+        return false;
+    }
+
+    // ---- looking ---------------------------------------------------------------------------------
+
+    /// Appends the boxes that hold a point: deepest node first.
+    static void HitPoint(const Tree& node, const QnGePoint& at, Boxes& result) {
+        const int sector = BoxSectors::Of(node, at);
+        if (sector != NO_SECTOR && BoxSectors::IsDivisible(node)) {
+            if (node.Child[sector] != nullptr) {
+                HitPoint(*node.Child[sector], at, result);
+            } else if (node.OneExtent != nullptr && BoxSectors::Holds(*node.OneExtent, at)) {
+                result.Append(node.OneExtent);
+            }
+        }
+        if (node.ExtentList != nullptr) {
+            const QnList<Box*>& list = *node.ExtentList;
+            for (Box* const* entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
+                if (BoxSectors::Holds(**entry, at)) {
+                    result.Append(*entry);
+                }
+            }
+        }
+    }
+
+    /// Appends the boxes that meet `box`, which is cut to the children's cells on the way down.
+    static void HitBox(const Tree& node, const Box& box, Boxes& result) {
+        const int sector = SectorOf(node, box);
+        if (sector == NO_SECTOR) {
+            for (const Tree* child : node.Child) {
+                if (child != nullptr) {
+                    const Box cut = box & *child;
+                    if (cut.IsValid()) {
+                        HitBox(*child, cut, result);
+                    }
+                }
+            }
+        } else if (node.Child[sector] != nullptr) {
+            HitBox(*node.Child[sector], box, result);
+        }
+        if (node.OneExtent != nullptr && node.OneExtent->IsInsersectWith(box)) {
+            result.Append(node.OneExtent);
+        }
+        if (node.ExtentList != nullptr) {
+            const QnList<Box*>& list = *node.ExtentList;
+            for (Box* const* entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
+                if ((*entry)->IsInsersectWith(box)) {
+                    result.Append(*entry);
+                }
+            }
+        }
+    }
+
+    static void GetAllExtent(const Tree& node, Boxes& result) {
+        if (node.ExtentList != nullptr) {
+            const QnList<Box*>& list = *node.ExtentList;
+            for (Box* const* entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
+                result.Append(*entry);
+            }
+        }
+        if (node.OneExtent != nullptr) {
+            result.Append(node.OneExtent);
+        }
+        for (const Tree* child : node.Child) {
+            if (child != nullptr) {
+                GetAllExtent(*child, result);
+            }
+        }
+    }
+};
+
+}  // namespace qn_detail

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "containers/QnList.h"
+#include "spatial/detail/TreeSectors.h"
+
+namespace qn_detail {
+
+/// What box trees and point trees of the plan and of space have in common: children by sectors, a list of what lies
+/// across their borders, and one item where there is nothing else.
+///
+/// `Kind` names the tree and its item, its sectors, and gives the two members that box and point trees call differently:
+/// Items(tree) for the list, One(tree) for the single item.
+template <class Kind>
+struct SectorTree : Kind::Sectors {
+    using Tree = typename Kind::Tree;
+    using Item = typename Kind::Item;
+    using Sectors = typename Kind::Sectors;
+
+    static int SectorOf(const Tree& node, const Item& item) {
+        const int sector = Sectors::Of(node, item);
+        return sector != NO_SECTOR && Sectors::IsDivisible(node) ? sector : NO_SECTOR;
+    }
+
+    /// Forgets range and contents without freeing them.
+    static void MakeEmpty(Tree& tree) {
+        Kind::Items(tree) = nullptr;
+        Kind::One(tree) = nullptr;
+        for (Tree*& child : tree.Child) {
+            child = nullptr;
+        }
+    }
+
+    static bool HasChild(const Tree& tree) {
+        for (const Tree* child : tree.Child) {
+            if (child != nullptr) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    static bool IsEmpty(const Tree& tree) {
+        return Kind::Items(tree) == nullptr && Kind::One(tree) == nullptr && !HasChild(tree);
+    }
+
+    static void Reset(Tree& tree) {
+        delete Kind::Items(tree);
+        for (Tree* child : tree.Child) {
+            delete child;
+        }
+        MakeEmpty(tree);
+    }
+
+    static Tree& ChildAt(Tree& node, int sector) {
+        if (node.Child[sector] == nullptr) {
+            node.Child[sector] = new Tree;
+            Sectors::SetRange(*node.Child[sector], Sectors::RangeOf(node, sector));
+        }
+        return *node.Child[sector];
+    }
+
+    /// Goes down to where the item stays. An item that was alone in a leaf follows the newcomer down.
+    static void Insert(Tree& tree, Item* item) {
+        Tree* node = &tree;
+        while (true) {
+            const int sector = SectorOf(*node, *item);
+            if (sector == NO_SECTOR) {
+                AppendItem(*node, item);
+                return;
+            }
+            if (IsEmpty(*node)) {
+                Kind::One(*node) = item;
+                return;
+            }
+            Tree& child = ChildAt(*node, sector);
+            if (Kind::One(*node) == nullptr) {
+                node = &child;
+                continue;
+            }
+            Insert(child, item);
+            item = Kind::One(*node);
+            Kind::One(*node) = nullptr;
+        }
+    }
+
+private:
+    static void AppendItem(Tree& node, Item* item) {
+        if (Kind::Items(node) == nullptr) {
+            Kind::Items(node) = new QnList<Item*>;
+        }
+        Kind::Items(node)->Append(item);
+    }
+};
+
+/// Names the parts of a point tree.
+template <class PointTree, class PointSectors>
+struct PointTreeKind {
+    using Tree = PointTree;
+    using Item = QnGePoint;
+    using Sectors = PointSectors;
+    static QnList<QnGePoint*>*& Items(Tree& tree) { return tree.PointList; }
+    static QnList<QnGePoint*>* Items(const Tree& tree) { return tree.PointList; }
+    static QnGePoint*& One(Tree& tree) { return tree.OnePoint; }
+    static QnGePoint* One(const Tree& tree) { return tree.OnePoint; }
+};
+
+/// What point trees do beyond the common.
+template <class PointTree, class PointSectors>
+struct PointTreeWork : SectorTree<PointTreeKind<PointTree, PointSectors>> {
+    static void GetPointInNode(const PointTree& node, QnList<QnGePoint*>& result) {
+        if (node.OnePoint != nullptr) {
+            result.Append(node.OnePoint);
+        }
+        if (node.PointList != nullptr) {
+            for (QnGePoint* const* point = node.PointList->GetFirst(); point != nullptr;
+                 point = node.PointList->GetNext(point)) {
+                result.Append(*point);
+            }
+        }
+    }
+};
+
+}  // namespace qn_detail
