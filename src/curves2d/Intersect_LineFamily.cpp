@@ -28,6 +28,7 @@
 #include "curves2d/QnGeLineRay2d.h"
 #include "curves2d/QnGeLineSeg2d.h"
 #include "curves2d/detail/HandOver.h"
+#include "curves2d/detail/SegmentOnLine.h"
 #include "frame/QnGeObjList.h"
 #include "frame/QnGeTolerance.h"
 #include "values/QnGeAnalytic.h"
@@ -35,6 +36,8 @@
 #include "values/QnGePoint2d.h"
 
 namespace {
+
+using qn_detail::IsOnSegment;
 
 /// How two carrying lines meet, and where.
 struct Meeting {
@@ -47,10 +50,6 @@ struct Meeting {
 
 bool IsOnRay(double t) {
     return t >= -g_fZero;
-}
-
-bool IsOnSegment(double t) {
-    return t >= -g_fZero && t - 1.0 <= g_fZero;
 }
 
 /// The parameter of a point on the carrying line, whatever the class makes of it.

@@ -89,6 +89,23 @@ public:
     /// See        QnGeCurve2d::Cut
     void CutBy(const QnGeCurve2d& curve, QnGeObjList& in, QnGeObjList& out, QnGeObjList& on) const;
 
+    /// Appends the planar curves of this list to `out`, each cut wherever it meets another, so that the pieces meet
+    /// only at their ends. A curve that meets none is cloned; so is what is no planar curve, and it cuts nothing.
+    ///
+    /// Tolerance  That of IntersectWith for meeting; boxes that are no further than g_distZero apart are looked at;
+    ///            cuts nearer than g_fZero in a curve's parameter are one.
+    /// Order      That of this list; the pieces of one curve as its Split gives them.
+    /// Ownership  The pieces are new and belong to `out`; the members of this list stay as they are.
+    /// Cost       n log n, and by the pairs whose boxes meet.
+    /// Kept odd   Where curves overlap, the common stretch comes once for each. A curve is not cut where it meets
+    ///            itself, and not at a point of which it knows no parameter.
+    void InterBreakCurve2d(QnGeObjList& out) const;
+
+    /// The same with common stretches kept once: the last of the curves that overlap keeps them.
+    ///
+    /// See  QnGeCurve2d::Cut, by which each curve cuts the pieces of all others.
+    void InterBreakCurveEx2d(QnGeObjList& out) const;
+
     void StreamOut(QnStream& stream) const;
 
     /// Empties the list and reads what StreamOut wrote. Class ids without a factory are skipped.
