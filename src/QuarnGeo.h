@@ -95,3 +95,9 @@
 #include "objects3d/QnGePlaneCurve3d.h"
 #include "objects3d/QnGePolyline3d.h"
 #include "objects3d/QnGeSolid3d.h"
+
+// Terrain: points with values become a network of triangles.
+#include "terrain/QnGeTINGraph.h"
+#include "terrain/QnGeTINNode.h"
+#include "terrain/QnGeTINOutEdge.h"
+#include "terrain/QnGeTINTriangle.h"

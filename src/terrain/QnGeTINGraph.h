@@ -106,9 +106,9 @@ protected:
     QnPDList<QnGeTINNode> Dropped;  ///< nodes that found no place
 
 private:
+    void SetTreeRanges(const QnGeExtent2d& range);
     bool InsertThird(QnGeTINNode* node);
     void Merge(QnGeTINNode& kept, QnGeTINNode* node);
-    void AddTriangle(QnGeTINTriangle* triangle);
     void SplitTriangle(QnGeTINNode* node, QnGeTINTriangle* triangle);
     void SplitEdge(QnGeTINNode* node, QnGeTINTriangle* triangle, long edge);
     void JoinHullEdges(QnGeTINNode* node, long index);
