@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include "values/detail/PathType.h"
+
 namespace {
 
 /// Parallel lines: are they one? n1 and n2 are the gap seen from either line.
@@ -74,15 +76,7 @@ QnGePoint TouchPoint(const QnGePoint& c, const QnGeVector2d& v, double way) {
 // ---- turns and sides -----------------------------------------------------------------------------
 
 int GetPathType(const QnGePoint& a, const QnGePoint& b, const QnGePoint& c) {
-    const double area = ((c.x - a.x) * (b.y - c.y) - (c.y - a.y) * (b.x - c.x)) / 2.0;
-    const double v = area / (std::fabs(a.x - b.x) + std::fabs(a.y - b.y));
-    if (IsLess(v, g_distZero)) {
-        return PATH_LEFT;
-    }
-    if (IsGreater(v, g_distZero)) {
-        return PATH_RIGHT;
-    }
-    return PATH_STRAIGHT;
+    return qn_detail::PathTypeOf(a, b, c);
 }
 
 QnBitData HitTestAtCorner2d(const QnGePoint& a, const QnGePoint& b, const QnGePoint& c, const QnGePoint& p) {
