@@ -3,11 +3,16 @@
 // QnGeTINGraph_MakeTIN.cpp: the network of all nodes of a list.
 //
 // The nodes are inserted in the breadth-first order of a point tree over them: coarse cells first, which keeps the early
-// triangles large and spread. A node that comes as the third while all are on one line goes to the end of the queue.
+// triangles large and spread. The tree itself is never made (detail/InsertionOrder.h). A node that comes as the third
+// while all are on one line goes to the end of the queue.
 //
 // Ownership  The nodes leave NodeList and come back to it one by one as Insert takes them.
 // Fails      The queue never empties for three or more nodes that all lie on one slanted line: each in turn is sent back.
 #include "terrain/QnGeTINGraph.h"
+
+#include <memory>
+
+#include "terrain/detail/InsertionOrder.h"
 
 void QnGeTINGraph::MakeTIN() {
     if (NodeList.IsEmpty()) {
@@ -25,18 +30,21 @@ void QnGeTINGraph::MakeTIN() {
 
     QnList<QnGeTINNode*> nodes;
     nodes.Conbine(NodeList, 0);
-    for (QnGeTINNode* const* entry = nodes.GetFirst(); entry != nullptr; entry = nodes.GetNext(entry)) {
-        NodeTree.Insert(*entry);
-    }
+    const long count = nodes.GetLength();
+    const std::unique_ptr<QnGeTINNode*[]> order = qn_detail::GetInsertionOrder(nodes, NodeTree);
     nodes.Reset();
-    QnList<QnGePoint*> order;
-    NodeTree.GetAllPoint(order, 1);
-    NodeTree.Reset();
-    while (!order.IsEmpty()) {
-        QnGeTINNode* const node = static_cast<QnGeTINNode*>(*order.GetFirst());
-        order.DelHead();
+
+    QnListQuene<QnGeTINNode*> deferred;
+    for (long i = 0; i < count; ++i) {
+        QnGeTINNode* const node = order[static_cast<std::size_t>(i)];
         if (!Insert(node)) {
-            order.Append(node);
+            deferred.EnQuene(node);
+        }
+    }
+    QnGeTINNode* node = nullptr;
+    while (deferred.DeQuene(node)) {
+        if (!Insert(node)) {
+            deferred.EnQuene(node);
         }
     }
 }
