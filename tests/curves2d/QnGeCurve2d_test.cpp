@@ -390,12 +390,29 @@ TEST(QnGeCurve2d, ExtendsToACloneWhereNothingIsBeyondTheEnds) {
     EXPECT_NE(dynamic_cast<AxisCurve*>(copy.get()), nullptr);
 }
 
-TEST(QnGeCurve2d, DoesNotExtendAnOpenChain) {
+TEST(QnGeCurve2d, ExtendsAnOpenCurveByARayAtEachEnd) {
+    const auto corner = ParseGeoAs<QnGeCurve2d>("mline 0,0,1 2,0,1 2,2,1");
+    const std::unique_ptr<QnGeCurve2d> extended(corner->GetExtendCurve());
+    ASSERT_NE(extended, nullptr);
+    EXPECT_TRUE(extended->IsInfinite());
+    QnGeObjList parts;
+    EXPECT_TRUE(extended->Explode(parts));
+    ExpectGeoList(parts, "ray reversed 0,0,1 -1,0; mline 0,0,1 2,0,1 2,2,1; ray 2,2,1 0,1");
+}
+
+TEST(QnGeCurve2d, ExtendsOnlyTheEndThatExists) {
     AxisCurve curve;
-    EXPECT_EQ(curve.GetExtendCurve(), nullptr);
-    curve.endExists = false;
-    EXPECT_EQ(curve.GetExtendCurve(), nullptr);
-    EXPECT_EQ(ParseGeoAs<QnGeCurve2d>("mline 0,0 1,0 1,1")->GetExtendCurve(), nullptr);
+    for (const bool startExists : {true, false}) {
+        curve.startExists = startExists;
+        curve.endExists = !startExists;
+        const std::unique_ptr<QnGeCurve2d> extended(curve.GetExtendCurve());
+        ASSERT_NE(extended, nullptr);
+        QnGeObjList parts;
+        EXPECT_TRUE(extended->Explode(parts));
+        ASSERT_EQ(parts.GetLength(), 2);
+        EXPECT_EQ(parts.GetAt(startExists ? 0 : 1)->GetCI(), &QnGeLineRay2d::s_classInfo);
+        EXPECT_TRUE(extended->IsInfinite());
+    }
 }
 
 namespace {
