@@ -1,15 +1,29 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // QnGeMCurve2d_SelfCross.cpp: whether a chain meets itself elsewhere than at its joints.
+//
+// Only children whose boxes meet are intersected; the boxes are so wide that no other pair meets.
 
+#include <cstdint>
+
+#include "containers/detail/PodArray.h"
 #include "curves2d/QnGeMCurve2d.h"
 #include "curves2d/detail/ChainChildren.h"
+#include "curves2d/detail/SearchBox.h"
 #include "frame/QnGeObjList.h"
 #include "values/QnGePoint2d.h"
 
+using qn_detail::BoxSearch;
 using qn_detail::ForEachChild;
+using qn_detail::PlanBox;
+using qn_detail::PodArray;
 
 namespace {
+
+struct IndexedChild {
+    const QnGeCurve2d* curve;
+    long index;
+};
 
 bool IsAnyBentBack(const QnGeMCurve2d& chain) {
     bool isAny = false;
@@ -46,27 +60,37 @@ struct Joints {
     }
 };
 
+bool IsAnyPairCrossing(const QnGeMCurve2d& chain) {
+    PodArray<IndexedChild> children;
+    PodArray<PlanBox> boxes;
+    ForEachChild(chain, [&children, &boxes](const QnGeCurve2d& child, long i) {
+        children.Append({&child, i});
+        boxes.Append(qn_detail::MakeSearchBox(child));
+        return true;
+    });
+    const Joints joints{chain.GetSegNum(), chain.IsClosed()};
+    const BoxSearch search(boxes.begin(), boxes.GetLength());
+    PodArray<std::int32_t> near;
+    for (long i = 0; i < children.GetLength(); ++i) {
+        search.Find(boxes[i], i + 1, boxes.GetLength(), near);
+        for (const std::int32_t j : near) {
+            QnGeObjList met;
+            children[i].curve->IntersectWith(*children[j].curve, met);
+            if (!met.IsEmpty() && joints.IsCrossing(children[i].index, children[j].index, met)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 }  // namespace
 
 /// Kept odd
 bool QnGeMCurve2d::IsSelfCross() const {
-    const long count = GetSegNum();
-    if (count <= 1) {
+    if (GetSegNum() <= 1) {
         const QnGeCurve2d* const only = qn_detail::ChildAt(*this, 0);
         return only != nullptr && only->IsSelfCross();
     }
-    if (IsAnyBentBack(*this)) {
-        return true;
-    }
-    const Joints joints{count, IsClosed()};
-    bool isCrossing = false;
-    ForEachChild(*this, [this, count, &joints, &isCrossing](const QnGeCurve2d& first, long i) {
-        ForEachChild(*this, i + 1, count, [&](const QnGeCurve2d& second, long j) {
-            QnGeObjList met;
-            isCrossing = first.IntersectWith(second, met) && joints.IsCrossing(i, j, met);
-            return !isCrossing;
-        });
-        return !isCrossing;
-    });
-    return isCrossing;
+    return IsAnyBentBack(*this) || IsAnyPairCrossing(*this);
 }

@@ -1,32 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "frame/QnGeObjList.h"
+#include "frame/detail/ExtentHull.h"
 #include "values/QnGeExtent2d.h"
 #include "values/QnGeExtent3d.h"
 
 namespace {
 
-// One object without an extent spoils the whole: `extent` then keeps what was merged before it.
 template <class Extent>
 bool MergeExtents(const QnGeObjList& list, bool (QnGeObject::*getExtent)(Extent&) const, Extent& extent) {
-    bool any = false;
+    qn_detail::ExtentHull<Extent> hull(getExtent, extent);
     for (QnGeObject* const* entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
-        if (*entry == nullptr) {
-            continue;
+        if (*entry != nullptr && !hull.Add(**entry)) {
+            break;
         }
-        if (!any) {
-            if (!((*entry)->*getExtent)(extent)) {
-                return false;
-            }
-            any = true;
-            continue;
-        }
-        Extent own;
-        if (!((*entry)->*getExtent)(own)) {
-            return false;
-        }
-        extent += own;
     }
-    return any;
+    return hull.IsThere();
 }
 
 }  // namespace

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "frame/QnGeObject.h"
 
+#include <cstdint>
 #include <memory>
 
 #include "base/QnDynArrayStream.h"
+#include "curves2d/detail/CurvePieces.h"
 #include "frame/DynCreateGeObject.h"
 #include "frame/QnGeObjList.h"
 #include "frame/QnGeTolerance.h"
+#include "frame/detail/ExtentHull.h"
+#include "polylines/detail/PieceIntersect.h"
 #include "values/QnGeCoordSys.h"
 #include "values/QnGeExtent2d.h"
 #include "values/QnGeExtent3d.h"
@@ -48,6 +52,13 @@ bool KeepNearest(const QnGePointList& all, const QnGePoint& point,
     return true;
 }
 
+template <class Extent>
+bool MergePartExtents(const QnGeObject& object, bool (QnGeObject::*getExtent)(Extent&) const, Extent& extent) {
+    qn_detail::ExtentHull<Extent> hull(getExtent, extent);
+    const bool exploded = qn_detail::ForEachPart(object, [&hull](const QnGeObject& part) { return hull.Add(part); });
+    return exploded && hull.IsThere();
+}
+
 }  // namespace
 
 QnGeObject::~QnGeObject() = default;
@@ -71,15 +82,8 @@ bool QnGeObject::Explode(QnGeObjList&) const {
 }
 
 bool QnGeObject::IntersectWith(const QnGeObject& other, QnGeObjList& result) const {
-    QnGeObjList parts;
-    Explode(parts);
     QnGeObjList found;
-    for (parts.MoveToFirst(); !parts.IsOut(); parts.MoveToNext()) {
-        const QnGeObject* part = parts.GetCurPData();
-        if (part != nullptr) {
-            part->IntersectWith(other, found);
-        }
-    }
+    qn_detail::IntersectParts(*this, other, found);
     if (found.IsEmpty()) {
         return false;
     }
@@ -88,29 +92,21 @@ bool QnGeObject::IntersectWith(const QnGeObject& other, QnGeObjList& result) con
 }
 
 bool QnGeObject::IsInclude(const QnGeObject& other) const {
-    QnGeObjList parts;
-    if (!other.Explode(parts)) {
-        return false;
-    }
-    for (parts.MoveToFirst(); !parts.IsOut(); parts.MoveToNext()) {
-        const QnGeObject* part = parts.GetCurPData();
-        if (part != nullptr && !IsInclude(*part)) {
-            return false;
-        }
-    }
-    return true;
+    bool isAll = true;
+    const bool exploded = qn_detail::ForEachPart(other, [this, &isAll](const QnGeObject& part) {
+        isAll = IsInclude(part);
+        return isAll;
+    });
+    return exploded && isAll;
 }
 
 QnBitData QnGeObject::HitTest(const QnGePoint& point) const {
-    QnGeObjList parts;
-    Explode(parts);
-    for (parts.MoveToFirst(); !parts.IsOut(); parts.MoveToNext()) {
-        const QnGeObject* part = parts.GetCurPData();
-        if (part != nullptr && part->HitTest(point).HasBit(HIT_ON)) {
-            return HIT_ON;
-        }
-    }
-    return 0;
+    bool isHit = false;
+    qn_detail::ForEachPart(*this, [&point, &isHit](const QnGeObject& part) {
+        isHit = part.HitTest(point).HasBit(HIT_ON);
+        return !isHit;
+    });
+    return QnBitData(isHit ? static_cast<std::uint32_t>(HIT_ON) : 0U);
 }
 
 QnBitData QnGeObject::SubHitTest(const QnGePoint& point, int& subIndex) const {
@@ -119,13 +115,11 @@ QnBitData QnGeObject::SubHitTest(const QnGePoint& point, int& subIndex) const {
 }
 
 bool QnGeObject::GetExtent2d(QnGeExtent2d& extent) const {
-    QnGeObjList parts;
-    return Explode(parts) && parts.GetExtent2d(extent);
+    return MergePartExtents(*this, &QnGeObject::GetExtent2d, extent);
 }
 
 bool QnGeObject::GetExtent3d(QnGeExtent3d& extent) const {
-    QnGeObjList parts;
-    return Explode(parts) && parts.GetExtent3d(extent);
+    return MergePartExtents(*this, &QnGeObject::GetExtent3d, extent);
 }
 
 bool QnGeObject::GetEcs(QnGeCoordSys&) const {
@@ -137,28 +131,20 @@ QnGePoint QnGeObject::GetSamplePoint() const {
 }
 
 bool QnGeObject::GetClosestPoint2d(const QnGePoint& point, QnGePointList& result) const {
-    QnGeObjList parts;
-    Explode(parts);
     QnGePointList all;
-    for (parts.MoveToFirst(); !parts.IsOut(); parts.MoveToNext()) {
-        const QnGeObject* part = parts.GetCurPData();
-        if (part != nullptr) {
-            part->GetClosestPoint2d(point, all);
-        }
-    }
+    qn_detail::ForEachPart(*this, [&point, &all](const QnGeObject& part) {
+        part.GetClosestPoint2d(point, all);
+        return true;
+    });
     return KeepNearest(all, point, GetDistance2d, result);
 }
 
 bool QnGeObject::GetClosestPoint(const QnGePoint& point, QnGePointList& result) const {
-    QnGeObjList parts;
-    Explode(parts);
     QnGePointList all;
-    for (parts.MoveToFirst(); !parts.IsOut(); parts.MoveToNext()) {
-        const QnGeObject* part = parts.GetCurPData();
-        if (part != nullptr) {
-            part->GetClosestPoint(point, all);
-        }
-    }
+    qn_detail::ForEachPart(*this, [&point, &all](const QnGeObject& part) {
+        part.GetClosestPoint(point, all);
+        return true;
+    });
     return KeepNearest(all, point, GetDistance3d, result);
 }
 

@@ -6,24 +6,11 @@
 
 #include "frame/QnGeTolerance.h"
 #include "polylines/QnGeMLine2d.h"
-#include "polylines/detail/SegmentView.h"
+#include "polylines/detail/LineParameter.h"
 #include "values/QnGeBaseLine2d.h"
 
-// Clamped before the conversion, so that no parameter leads out of the range of a whole number; NaN gives segment 0.
 long QnGeMLine2d::GetSegIndexFromPa(double& pa) const {
-    const long count = GetSegNum();
-    if (count == 0) {
-        return -1;
-    }
-    const double place = pa * static_cast<double>(count);
-    long i = 0;
-    if (place >= static_cast<double>(count - 1)) {
-        i = count - 1;
-    } else if (place > 0.0) {
-        i = static_cast<long>(place);
-    }
-    pa = place - static_cast<double>(i);
-    return i;
+    return qn_detail::PartIndexFromPa(GetSegNum(), pa);
 }
 
 bool QnGeMLine2d::GetStartPoint(QnGePoint& point) const {
@@ -68,63 +55,15 @@ bool QnGeMLine2d::GetPtFromPa(double pa, QnGePoint& point) const {
 }
 
 bool QnGeMLine2d::GetPaFromPt(const QnGePoint& point, double& pa) const {
-    pa = -1.0;
-    qn_detail::SegmentView view;
-    const long count = GetSegNum();
-    for (long i = 0; i < count; i++) {
-        const QnGeLineSeg2d& seg = view.Get(*this, i);
-        if (seg.HitTest(point).HasBit(HIT_ON)) {
-            double local = 0.0;
-            seg.GetPaFromPt(point, local);
-            pa = (static_cast<double>(i) + local) / static_cast<double>(count);
-            return true;
-        }
-    }
-    return false;
+    return qn_detail::GetLinePaFromPt(*this, point, pa);
 }
 
 bool QnGeMLine2d::GetPaFromDist(double dist, double& pa) const {
-    pa = -1.0;
-    QnGeBaseLine2d line;
-    double travelled = 0.0;
-    const long count = GetSegNum();
-    for (long i = 0; i < count; i++) {
-        GetSegment(i, line);
-        const double length = line.Length();
-        const double rest = dist - travelled;
-        const bool isHere = rest >= -g_distZero && dist - (travelled + length) <= g_distZero;
-        if (isHere) {
-            double local = 0.0;
-            line.GetPaFromDist(rest, local);
-            pa = (static_cast<double>(i) + local) / static_cast<double>(count);
-            return true;
-        }
-        travelled += length;
-    }
-    return false;
+    return qn_detail::GetLinePaFromDist(*this, dist, pa);
 }
 
 bool QnGeMLine2d::GetDistFromPa(double pa, double& dist) const {
-    if (IsZero(pa, g_fZero)) {
-        dist = 0.0;
-        return true;
-    }
-    if (IsZero(pa - 1.0, g_fZero)) {
-        dist = Length();
-        return true;
-    }
-    const long last = GetSegIndexFromPa(pa);
-    if (last < 0) {
-        return false;
-    }
-    QnGeBaseLine2d line;
-    GetSegment(last, line);
-    line.GetDistFromPa(pa, dist);
-    for (long i = 0; i < last; i++) {
-        GetSegment(i, line);
-        dist += line.Length();
-    }
-    return true;
+    return qn_detail::GetLineDistFromPa(*this, pa, dist);
 }
 
 void QnGeMLine2d::GetTangent(double pa, QnGeBaseLine2d& tangent) const {

@@ -6,6 +6,7 @@
 
 #include "frame/QnGeTolerance.h"
 #include "polylines/QnGePolyline2d.h"
+#include "polylines/detail/LineParameter.h"
 #include "polylines/detail/SegmentView.h"
 #include "values/QnGeBaseLine2d.h"
 
@@ -32,61 +33,15 @@ bool QnGePolyline2d::GetPtFromPa(double pa, QnGePoint& point) const {
 }
 
 bool QnGePolyline2d::GetPaFromPt(const QnGePoint& point, double& pa) const {
-    pa = -1.0;
-    qn_detail::SegmentView view;
-    const long count = GetSegNum();
-    for (long i = 0; i < count; i++) {
-        const QnGeCurve2d& seg = view.Get(*this, i);
-        if (seg.HitTest(point).HasBit(HIT_ON)) {
-            double local = 0.0;
-            seg.GetPaFromPt(point, local);
-            pa = (static_cast<double>(i) + local) / static_cast<double>(count);
-            return true;
-        }
-    }
-    return false;
+    return qn_detail::GetLinePaFromPt(*this, point, pa);
 }
 
 bool QnGePolyline2d::GetPaFromDist(double dist, double& pa) const {
-    pa = -1.0;
-    qn_detail::SegmentView view;
-    double travelled = 0.0;
-    const long count = GetSegNum();
-    for (long i = 0; i < count; i++) {
-        const QnGeCurve2d& seg = view.Get(*this, i);
-        const double length = seg.Length();
-        const double rest = dist - travelled;
-        const bool isHere = rest >= -g_distZero && dist - (travelled + length) <= g_distZero;
-        if (isHere) {
-            double local = 0.0;
-            seg.GetPaFromDist(rest, local);
-            pa = (static_cast<double>(i) + local) / static_cast<double>(count);
-            return true;
-        }
-        travelled += length;
-    }
-    return false;
+    return qn_detail::GetLinePaFromDist(*this, dist, pa);
 }
 
 bool QnGePolyline2d::GetDistFromPa(double pa, double& dist) const {
-    if (IsZero(pa, g_fZero)) {
-        dist = 0.0;
-        return true;
-    }
-    if (IsZero(pa - 1.0, g_fZero)) {
-        dist = Length();
-        return true;
-    }
-    const long last = GetSegIndexFromPa(pa);
-    if (last < 0) {
-        return false;
-    }
-    qn_detail::SegmentView view;
-    view.Get(*this, last).GetDistFromPa(pa, dist);
-    for (long i = 0; i < last; i++) {
-        dist += view.Get(*this, i).Length();
-    }
-    return true;
+    return qn_detail::GetLineDistFromPa(*this, pa, dist);
 }
 
 void QnGePolyline2d::GetTangent(double pa, QnGeBaseLine2d& tangent) const {

@@ -11,10 +11,28 @@
 
 namespace qn_detail {
 
-bool IsPlainPrimitive(const QnGeCurve2d& curve) {
-    const std::type_info& type = typeid(curve);
-    return type == typeid(QnGeLineSeg2d) || type == typeid(QnGeArc2d) || type == typeid(QnGeCircle2d) ||
-           type == typeid(QnGeLineRay2d) || type == typeid(QnGeLine2d);
+// The record says which class it may be, the type whether it is that one and no class of a caller's.
+
+bool IsPlainPrimitive(const QnGeObject& object) {
+    const std::type_info& type = typeid(object);
+    switch (object.GetClassID()) {
+        case CLASS_ID_LINE2D:
+            return type == typeid(QnGeLine2d);
+        case CLASS_ID_LINE_RAY2D:
+            return type == typeid(QnGeLineRay2d);
+        case CLASS_ID_LINE_SEG2D:
+            return type == typeid(QnGeLineSeg2d);
+        case CLASS_ID_CIRCLE2D:
+            return type == typeid(QnGeCircle2d);
+        case CLASS_ID_ARC2D:
+            return type == typeid(QnGeArc2d);
+        default:
+            return false;
+    }
+}
+
+bool IsPlainChain(const QnGeObject& object) {
+    return object.GetCI() == &QnGeMCurve2d::s_classInfo && typeid(object) == typeid(QnGeMCurve2d);
 }
 
 }  // namespace qn_detail

@@ -19,22 +19,28 @@ void VisitUpTo(const Line& line, long count, PieceVisit visit, void* context) {
 
 }  // namespace
 
-bool IsPlainPolyline(const QnGeCurve2d& curve) {
-    return curve.GetCI() == &QnGeMLine2d::s_classInfo || curve.GetCI() == &QnGePolyline2d::s_classInfo;
+bool IsPlainPolyline(const QnGeObject& object) {
+    return object.GetCI() == &QnGeMLine2d::s_classInfo || object.GetCI() == &QnGePolyline2d::s_classInfo;
+}
+
+// A closed multi-line explodes into its closing segment even where it has a single vertex.
+long GetPieceNum(const QnGeMLine2d& line) {
+    const long vertexNum = line.GetVertexNum();
+    if (line.GetCI() == &QnGePolyline2d::s_classInfo || vertexNum == 0) {
+        return line.GetSegNum();
+    }
+    return line.IsClosed() ? vertexNum : vertexNum - 1;
 }
 
 bool ForEachSegment(const QnGeCurve2d& curve, PieceVisit visit, void* context) {
+    const QnGeMLine2d& line = static_cast<const QnGeMLine2d&>(curve);
+    const long count = GetPieceNum(line);
     if (curve.GetCI() == &QnGePolyline2d::s_classInfo) {
-        const QnGePolyline2d& polyline = static_cast<const QnGePolyline2d&>(curve);
-        VisitUpTo(polyline, polyline.GetSegNum(), visit, context);
+        VisitUpTo(static_cast<const QnGePolyline2d&>(line), count, visit, context);
         return true;
     }
-
-    // A closed multi-line explodes into its closing segment even where it has a single vertex.
-    const QnGeMLine2d& line = static_cast<const QnGeMLine2d&>(curve);
-    const long vertexNum = line.GetVertexNum();
-    VisitUpTo(line, line.IsClosed() ? vertexNum : vertexNum - 1, visit, context);
-    return vertexNum > 0;
+    VisitUpTo(line, count, visit, context);
+    return line.GetVertexNum() > 0;
 }
 
 }  // namespace qn_detail

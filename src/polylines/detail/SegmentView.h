@@ -41,4 +41,7 @@ private:
     QnGeArc2d m_arc;
 };
 
+/// How many pieces a multi-line or polyline explodes into.
+long GetPieceNum(const QnGeMLine2d& line);
+
 }  // namespace qn_detail
