@@ -151,7 +151,13 @@ public:
     ///
     /// Kept odd  As Symplify.
     void Compress() override;
-    /// False, the line stays as it is.
+    /// Moves every segment to the right of travel by `dist`, to the left if negative; the corners are intersected.
+    ///
+    /// Nothing is rounded or trimmed: where a segment is too short for the offset it comes out running backwards, and
+    /// the answer is true all the same. IsSelfCross and ExplodeSelfcross find and clean that.
+    ///
+    /// Fails  False if neighbouring segments would be parallel and apart, as at a U-turn; false without a segment.
+    /// See    docs/algorithms/offset.md
     bool Offset(double dist) override;
 
     // ---- multi-line protocol, in slot order ------------------------------------------------------
@@ -196,7 +202,10 @@ public:
     ///        beyond 0..1.
     virtual long GetSegIndexFromPa(double& pa) const;
 
-    /// False, the line stays as it is.
+    /// As Offset for segment `i` alone: its two vertices move along the neighbours.
+    ///
+    /// Fails  False also if a neighbour runs on in its line, for then the two are parallel and apart; false if there is
+    ///        no segment `i`.
     virtual bool OffsetSeg(long i, double dist);
 
     // ---- vertices and segments -------------------------------------------------------------------
@@ -234,7 +243,17 @@ public:
     /// Deletes the first vertex within g_distZero of `point` in plan and answers its index, -1 if there is none.
     long DelNode(const QnGePoint& point);
 
-    /// False, nothing appended.
+    /// Takes the line apart at its crossings with itself into pieces that do not cross themselves.
+    ///
+    /// The first crossing splits the line into a closed loop and the rest, which is closed if the line is; both are
+    /// taken apart in turn. Where two segments lie on each other, both come as QnGeLineSeg2d, and rest and loop are
+    /// joined up without them. A polyline gives its chords.
+    ///
+    /// Tolerance  g_distZero in plan: a crossing at a vertex does not double it.
+    /// Order      At every split the two overlapping segments, the later one first; then the rest, then the loop.
+    /// Ownership  `parts` owns the pieces, QnGeMLine2d and QnGeLineSeg2d.
+    /// Fails      False and nothing appended if the line does not cross itself.
+    /// Laws       Without overlaps the lengths add up, in plan, to that of the line.
     bool ExplodeSelfcross(QnGeObjList& parts) const;
 
 protected:

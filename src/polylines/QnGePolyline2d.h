@@ -110,7 +110,12 @@ public:
     QnGeMLine2d* MLinearize(double prec) const override;
     /// A copy, a polyline; `prec` plays no part.
     QnGeMLine2d* PLinearize(double prec) const override;
-    /// False, the line stays as it is.
+    /// As the multi-line's; an arc keeps its centre and its sense of rotation, its radius and sweep follow.
+    ///
+    /// Where the carriers of two segments meet twice, the corner is the meeting point nearer to where the segment behind
+    /// it starts.
+    ///
+    /// Fails  False if an arc would lose its radius or neighbouring carriers do not meet; false without a segment.
     bool Offset(double dist) override;
 
     // ---- multi-line protocol, in slot order ------------------------------------------------------
@@ -128,7 +133,7 @@ public:
     void SetAllocUnit(long n) override;
     /// As the multi-line's; the bulge of a segment whose end is dropped goes with it.
     bool RemoveDupPoint() override;
-    /// False, the line stays as it is.
+    /// As Offset for segment `i` alone. Where carriers meet twice, the corner nearer to the old one is taken.
     bool OffsetSeg(long i, double dist) override;
 
     // ---- bulges and segments ---------------------------------------------------------------------

@@ -42,6 +42,8 @@ public:
     const T* end() const { return m_block + m_length; }
 
     void Clear() { m_length = 0; }
+    /// Drops the records from `length` on, which is at most the number of records.
+    void Shorten(long length) { m_length = length; }
 
     /// Bytes of the block.
     long GetMemory() const { return static_cast<long>(m_bytes); }
