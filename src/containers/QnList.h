@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
+#include <new>
+
 #include "containers/QnArray.h"
 #include "containers/QnDynArrayBase.h"
 #include "containers/impl/Ordering.h"
+#include "containers/impl/Pieces.h"
 
 /// A list node. The element comes first: its address, which GetFirst and its like hand out, is that of the node.
 template <class T>
@@ -22,6 +26,16 @@ struct QnDListNode : QnListNode<T> {
 
     QnDListNode() = default;
     explicit QnDListNode(const T& value) : QnListNode<T>(value) {}
+
+    // Nodes come and go singly and often: they have free lists of their own.
+    static void* operator new(std::size_t bytes) { return qn_detail::TakePiece(bytes); }
+    static void operator delete(void* node, std::size_t bytes) { qn_detail::GivePiece(node, bytes); }
+    static void* operator new(std::size_t bytes, std::align_val_t alignment) {
+        return ::operator new(bytes, alignment);
+    }
+    static void operator delete(void* node, std::size_t bytes, std::align_val_t alignment) {
+        ::operator delete(node, bytes, alignment);
+    }
 };
 
 /// A linked list with the cursor and the index operations of all sequences.

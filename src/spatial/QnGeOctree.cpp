@@ -5,7 +5,8 @@
 
 namespace {
 
-using Work = qn_detail::BoxTree<QnGeOctree, qn_detail::SpaceSectors<QnGeOctree>>;
+using Sectors = qn_detail::SpaceSectors<QnGeOctree>;
+using Work = qn_detail::BoxTree<QnGeOctree, Sectors, qn_detail::PlainBoxLists<QnGeOctree, Sectors>>;
 
 /// The children of one half of a node: above (0) or below (1).
 struct Half {
@@ -43,6 +44,14 @@ void CompressTree(QnGeOctree& tree, bool mayDrop) {
 }
 
 }  // namespace
+
+void* QnGeOctree::operator new(std::size_t bytes) {
+    return qn_detail::TakePiece(bytes);
+}
+
+void QnGeOctree::operator delete(void* tree, std::size_t bytes) {
+    qn_detail::GivePiece(tree, bytes);
+}
 
 QnGeOctree::QnGeOctree() : CenterX(0.0), CenterY(0.0), CenterZ(0.0) {
     Work::MakeEmpty(*this);

@@ -9,6 +9,14 @@ using Work = qn_detail::PointTreeWork<QnGePtOctree, qn_detail::SpaceSectors<QnGe
 
 }  // namespace
 
+void* QnGePtOctree::operator new(std::size_t bytes) {
+    return qn_detail::TakePiece(bytes);
+}
+
+void QnGePtOctree::operator delete(void* tree, std::size_t bytes) {
+    qn_detail::GivePiece(tree, bytes);
+}
+
 QnGePtOctree::QnGePtOctree() : CenterX(0.0), CenterY(0.0), CenterZ(0.0) {
     Work::MakeEmpty(*this);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
+
 #include "containers/QnList.h"
 #include "values/QnGeExtent3d.h"
 #include "values/QnGePoint.h"
@@ -21,6 +23,10 @@ public:
     QnGePtOctree(const QnGePtOctree& other) = default;
     QnGePtOctree& operator=(const QnGePtOctree& other) = default;
     ~QnGePtOctree() override;
+
+    /// Nodes come and go singly and often: they have free lists of their own.
+    static void* operator new(std::size_t bytes);
+    static void operator delete(void* tree, std::size_t bytes);
 
     void SetRange(double xMin, double xMax, double yMin, double yMax, double zMin, double zMax);
     bool IsEmptyTree() const;

@@ -89,6 +89,14 @@ void GetRingsWide(QnGePtQuadTree2d& tree, QnList<QnGePoint*>& result) {
 
 }  // namespace
 
+void* QnGePtQuadTree2d::operator new(std::size_t bytes) {
+    return qn_detail::TakePiece(bytes);
+}
+
+void QnGePtQuadTree2d::operator delete(void* tree, std::size_t bytes) {
+    qn_detail::GivePiece(tree, bytes);
+}
+
 QnGePtQuadTree2d::QnGePtQuadTree2d() : CenterX(0.0), CenterY(0.0) {
     Work::MakeEmpty(*this);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
+
 #include "containers/QnList.h"
 #include "values/QnGeExtent2d.h"
 #include "values/QnGePoint.h"
@@ -22,6 +24,10 @@ public:
     QnGePtQuadTree2d(const QnGePtQuadTree2d& other) = default;
     QnGePtQuadTree2d& operator=(const QnGePtQuadTree2d& other) = default;
     ~QnGePtQuadTree2d() override;
+
+    /// Nodes come and go singly and often: they have free lists of their own.
+    static void* operator new(std::size_t bytes);
+    static void operator delete(void* tree, std::size_t bytes);
 
     /// Requires  An empty tree; the range must hold all points to come.
     void SetRange(double xMin, double xMax, double yMin, double yMax);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "spatial/QnGeQuadTree2d.h"
 
-#include "spatial/detail/BoxTree.h"
+#include "spatial/detail/QuadTreeWork.h"
 
 namespace {
 
-using Work = qn_detail::BoxTree<QnGeQuadTree2d, qn_detail::PlanSectors<QnGeQuadTree2d>>;
+using Work = qn_detail::QuadTreeWork;
 
 /// The only child of a node; null if it has none or several.
 QnGeQuadTree2d* LoneChild(const QnGeQuadTree2d& node) {
@@ -20,6 +20,14 @@ QnGeQuadTree2d* LoneChild(const QnGeQuadTree2d& node) {
 }
 
 }  // namespace
+
+void* QnGeQuadTree2d::operator new(std::size_t bytes) {
+    return qn_detail::TakePiece(bytes);
+}
+
+void QnGeQuadTree2d::operator delete(void* tree, std::size_t bytes) {
+    qn_detail::GivePiece(tree, bytes);
+}
 
 QnGeQuadTree2d::QnGeQuadTree2d() : CenterX(0.0), CenterY(0.0) {
     Work::MakeEmpty(*this);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
+
 #include "containers/QnList.h"
 #include "values/QnGeExtent2d.h"
 
@@ -36,6 +38,10 @@ public:
     QnGeQuadTree2d(const QnGeQuadTree2d& other) = default;
     QnGeQuadTree2d& operator=(const QnGeQuadTree2d& other) = default;
     ~QnGeQuadTree2d() override;
+
+    /// Nodes come and go singly and often: they have free lists of their own.
+    static void* operator new(std::size_t bytes);
+    static void operator delete(void* tree, std::size_t bytes);
 
     void SetRange(double xMin, double xMax, double yMin, double yMax);
     bool IsEmptyTree() const;

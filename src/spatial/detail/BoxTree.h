@@ -9,7 +9,7 @@
 namespace qn_detail {
 
 /// Names the parts of a box tree.
-template <class ABoxTree, class BoxSectors>
+template <class ABoxTree, class BoxSectors, class BoxLists>
 struct BoxTreeKind {
     using Tree = ABoxTree;
     using Item = typename BoxSectors::Box;
@@ -18,12 +18,52 @@ struct BoxTreeKind {
     static QnList<Item*>* Items(const Tree& tree) { return tree.ExtentList; }
     static Item*& One(Tree& tree) { return tree.OneExtent; }
     static Item* One(const Tree& tree) { return tree.OneExtent; }
+    static void AppendItem(Tree& tree, Item* item) { BoxLists::Append(tree, item); }
+};
+
+/// How a tree works on its lists: by going through them.
+template <class Tree, class Sectors>
+struct PlainBoxLists {
+    using Box = typename Sectors::Box;
+
+    static void Append(Tree& node, Box* box) { AppendTo(node.ExtentList, box); }
+
+    /// Takes the first entry out that is the same as `box`; false if there is none.
+    static bool Take(Tree& node, const Box* box) {
+        QnList<Box*>& list = *node.ExtentList;
+        for (list.MoveToFirst(); !list.IsOut(); list.MoveToNext()) {
+            if (list.GetCurData()->IsSameWith(box)) {
+                list.DelCur();
+                return true;
+            }
+        }
+        return false;
+    }
+
+    static void HitPoint(const Tree& node, const QnGePoint& at, QnDynArrayBase<Box*>& result) {
+        AppendHits(
+            *node.ExtentList, [&at](const Box& box) { return Sectors::Holds(box, at); }, result);
+    }
+    static void HitBox(const Tree& node, const Box& searched, QnDynArrayBase<Box*>& result) {
+        AppendHits(
+            *node.ExtentList, [&searched](const Box& box) { return box.IsInsersectWith(searched); }, result);
+    }
+
+private:
+    template <class IsHit>
+    static void AppendHits(const QnList<Box*>& list, IsHit isHit, QnDynArrayBase<Box*>& result) {
+        for (Box* const* entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
+            if (isHit(**entry)) {
+                result.Append(*entry);
+            }
+        }
+    }
 };
 
 /// What the box trees of the plan and of space do alike.
-template <class ABoxTree, class BoxSectors>
-struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors>> {
-    using Base = SectorTree<BoxTreeKind<ABoxTree, BoxSectors>>;
+template <class ABoxTree, class BoxSectors, class BoxLists>
+struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
+    using Base = SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>>;
     using Tree = ABoxTree;
     using Box = typename BoxSectors::Box;
     using Boxes = QnDynArrayBase<Box*>;
@@ -66,25 +106,17 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors>> {
     }
 
     static bool DeleteFromList(Tree& node, Box* box, bool deleteObject) {
-        if (node.ExtentList == nullptr) {
+        if (node.ExtentList == nullptr || !BoxLists::Take(node, box)) {
             return false;
         }
-        QnList<Box*>& list = *node.ExtentList;
-        for (list.MoveToFirst(); !list.IsOut(); list.MoveToNext()) {
-            Box* const entry = list.GetCurData();
-            if (entry->IsSameWith(static_cast<const Box*>(box))) {
-                list.DelCur();
-                if (deleteObject) {
-                    delete entry;
-                }
-                if (list.IsEmpty()) {
-                    delete node.ExtentList;
-                    node.ExtentList = nullptr;
-                }
-                return true;
-            }
+        if (node.ExtentList->IsEmpty()) {
+            delete node.ExtentList;
+            node.ExtentList = nullptr;
         }
-        return false;
+        if (deleteObject) {
+            delete box;
+        }
+        return true;
     }
 
     // ---- levels above ----------------------------------------------------------------------------
@@ -121,9 +153,15 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors>> {
         if (sector == NO_SECTOR) {
             return false;
         }
-        bool isPlaced = true;
         if (IsGreater(node.GetLength() / 2.0 - subtree->GetLength(), g_distZero)) {
-            isPlaced = InsertChild(Base::ChildAt(node, sector), subtree);
+            const bool isNew = node.Child[sector] == nullptr;
+            if (!InsertChild(Base::ChildAt(node, sector), subtree)) {
+                if (isNew) {
+                    delete node.Child[sector];
+                    node.Child[sector] = nullptr;
+                }
+                return false;
+            }
         } else if (node.Child[sector] != subtree) {
             delete node.Child[sector];
             node.Child[sector] = subtree;
@@ -133,7 +171,7 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors>> {
             node.OneExtent = nullptr;
             Insert(node, one);
         }
-        return isPlaced;
+        return true;
     }
 
     // ---- growing ---------------------------------------------------------------------------------
@@ -226,12 +264,7 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors>> {
             }
         }
         if (node.ExtentList != nullptr) {
-            const QnList<Box*>& list = *node.ExtentList;
-            for (Box* const* entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
-                if (BoxSectors::Holds(**entry, at)) {
-                    result.Append(*entry);
-                }
-            }
+            BoxLists::HitPoint(node, at, result);
         }
     }
 
@@ -254,12 +287,7 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors>> {
             result.Append(node.OneExtent);
         }
         if (node.ExtentList != nullptr) {
-            const QnList<Box*>& list = *node.ExtentList;
-            for (Box* const* entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
-                if ((*entry)->IsInsersectWith(box)) {
-                    result.Append(*entry);
-                }
-            }
+            BoxLists::HitBox(node, box, result);
         }
     }
 

@@ -9,8 +9,8 @@ namespace qn_detail {
 /// What box trees and point trees of the plan and of space have in common: children by sectors, a list of what lies
 /// across their borders, and one item where there is nothing else.
 ///
-/// `Kind` names the tree and its item, its sectors, and gives the two members that box and point trees call differently:
-/// Items(tree) for the list, One(tree) for the single item.
+/// `Kind` names the tree, its item and its sectors. Items(tree) and One(tree) are the list and the single item, which
+/// box and point trees call differently; AppendItem(tree, item) puts an item at the end of the list.
 template <class Kind>
 struct SectorTree : Kind::Sectors {
     using Tree = typename Kind::Tree;
@@ -66,7 +66,7 @@ struct SectorTree : Kind::Sectors {
         while (true) {
             const int sector = SectorOf(*node, *item);
             if (sector == NO_SECTOR) {
-                AppendItem(*node, item);
+                Kind::AppendItem(*node, item);
                 return;
             }
             if (IsEmpty(*node)) {
@@ -83,15 +83,16 @@ struct SectorTree : Kind::Sectors {
             Kind::One(*node) = nullptr;
         }
     }
-
-private:
-    static void AppendItem(Tree& node, Item* item) {
-        if (Kind::Items(node) == nullptr) {
-            Kind::Items(node) = new QnList<Item*>;
-        }
-        Kind::Items(node)->Append(item);
-    }
 };
+
+/// Appends to a list that its first item makes.
+template <class Item>
+void AppendTo(QnList<Item*>*& list, Item* item) {
+    if (list == nullptr) {
+        list = new QnList<Item*>;
+    }
+    list->Append(item);
+}
 
 /// Names the parts of a point tree.
 template <class PointTree, class PointSectors>
@@ -103,6 +104,7 @@ struct PointTreeKind {
     static QnList<QnGePoint*>* Items(const Tree& tree) { return tree.PointList; }
     static QnGePoint*& One(Tree& tree) { return tree.OnePoint; }
     static QnGePoint* One(const Tree& tree) { return tree.OnePoint; }
+    static void AppendItem(Tree& tree, QnGePoint* point) { AppendTo(tree.PointList, point); }
 };
 
 /// What point trees do beyond the common.

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// Pieces.cpp: free lists of small objects that are made and deleted by the million, one by one.
+//
+// Nodes of lists and trees and the triangles of a network come and go singly. A piece that comes back is pushed on the
+// free list of its size and is the next to be taken, most likely still in the cache; where the list is empty, pieces are
+// cut off a slab one after the other, so that what is made together lies together.
+//
+// Invariant  A piece is a multiple of GRAIN long and lies at a multiple of the largest power of two up to 16 that
+//            divides its length.
+// Why so     The library runs one call at a time, so the lists need no lock.
+// Ownership  Slabs stay until the program ends: what was freed serves whatever comes next of that size.
+// Cost       A few instructions to take or give, no bytes beside the piece.
+#include "containers/impl/Pieces.h"
+
+#include <new>
+
+#if defined(__SANITIZE_ADDRESS__)
+#define QN_PIECES_FROM_HEAP 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define QN_PIECES_FROM_HEAP 1
+#endif
+#endif
+
+namespace qn_detail {
+
+#if defined(QN_PIECES_FROM_HEAP)
+
+// Under a sanitizer each object is a block of its own, so that it sees what is read after it was freed.
+void* TakePiece(std::size_t bytes) {
+    return ::operator new(bytes);
+}
+
+void GivePiece(void* piece, std::size_t bytes) noexcept {
+    static_cast<void>(bytes);
+    ::operator delete(piece);
+}
+
+#else
+
+namespace {
+
+constexpr std::size_t GRAIN = 8;
+constexpr std::size_t MOST_BYTES = 768;  ///< larger objects come from the heap
+constexpr std::size_t FIRST_SLAB = 1024;
+constexpr std::size_t LARGEST_SLAB = std::size_t{1} << 18;
+constexpr std::size_t SLAB_ALIGNMENT = 16;
+
+struct Free {
+    Free* next;
+};
+
+/// The pieces of one length.
+struct Shelf {
+    Free* free;        ///< given back
+    char* cut;         ///< where the next is cut off
+    char* end;         ///< of the slab that is cut
+    std::size_t slab;  ///< length of the last slab
+};
+
+Shelf g_shelves[MOST_BYTES / GRAIN + 1] = {};
+
+void* CutPiece(Shelf& shelf, std::size_t length) {
+    if (static_cast<std::size_t>(shelf.end - shelf.cut) < length) {
+        const std::size_t doubled = shelf.slab == 0 ? FIRST_SLAB : 2 * shelf.slab;
+        const std::size_t bytes = doubled > LARGEST_SLAB ? LARGEST_SLAB : doubled;
+        static_assert(__STDCPP_DEFAULT_NEW_ALIGNMENT__ >= SLAB_ALIGNMENT, "slabs serve every piece");
+        shelf.cut = static_cast<char*>(::operator new(bytes));
+        shelf.end = shelf.cut + bytes;
+        shelf.slab = bytes;
+    }
+    void* const piece = shelf.cut;
+    shelf.cut += length;
+    return piece;
+}
+
+}  // namespace
+
+void* TakePiece(std::size_t bytes) {
+    if (bytes > MOST_BYTES) {
+        return ::operator new(bytes);
+    }
+    const std::size_t grains = (bytes + GRAIN - 1) / GRAIN;
+    Shelf& shelf = g_shelves[grains];
+    Free* const piece = shelf.free;
+    if (piece == nullptr) {
+        return CutPiece(shelf, grains * GRAIN);
+    }
+    shelf.free = piece->next;
+    return piece;
+}
+
+void GivePiece(void* piece, std::size_t bytes) noexcept {
+    if (piece == nullptr) {
+        return;
+    }
+    if (bytes > MOST_BYTES) {
+        ::operator delete(piece);
+        return;
+    }
+    Shelf& shelf = g_shelves[(bytes + GRAIN - 1) / GRAIN];
+    auto* const given = static_cast<Free*>(piece);
+    given->next = shelf.free;
+    shelf.free = given;
+}
+
+#endif
+
+}  // namespace qn_detail

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "spatial/QnGeQuadTree2d.h"
+#include "spatial/detail/BoxList.h"
+#include "spatial/detail/BoxTree.h"
+
+namespace qn_detail {
+
+/// How the quad tree works on its lists: by the order that its own lists keep beside their elements. A list that a
+/// caller has put in a node is gone through.
+struct OrderedBoxLists {
+    using Tree = QnGeQuadTree2d;
+    using Box = QnGeExtent2d;
+    using Boxes = QnDynArrayBase<Box*>;
+    using Plain = PlainBoxLists<Tree, PlanSectors<Tree>>;
+
+    static void Append(Tree& node, Box* box) {
+        if (node.ExtentList == nullptr) {
+            node.ExtentList = new BoxList;
+        }
+        BoxList* const list = BoxList::From(node.ExtentList);
+        if (list != nullptr) {
+            list->Add(box, node.CenterX, node.CenterY);
+        } else {
+            Plain::Append(node, box);
+        }
+    }
+
+    static bool Take(Tree& node, const Box* box) {
+        BoxList* const list = BoxList::From(node.ExtentList);
+        return list != nullptr ? list->Take(box) : Plain::Take(node, box);
+    }
+
+    static void HitPoint(const Tree& node, const QnGePoint& at, Boxes& result) {
+        const BoxList* const list = GetList(node);
+        if (list == nullptr) {
+            Plain::HitPoint(node, at, result);
+            return;
+        }
+        BoxHits hits;
+        list->Find(at.x, at.y, node.CenterX, node.CenterY, hits);
+        AppendHits(hits, result);
+    }
+
+    static void HitBox(const Tree& node, const Box& box, Boxes& result) {
+        const BoxList* const list = GetList(node);
+        if (list == nullptr) {
+            Plain::HitBox(node, box, result);
+            return;
+        }
+        BoxHits hits;
+        list->Find(box, node.CenterX, node.CenterY, hits);
+        AppendHits(hits, result);
+    }
+
+private:
+    static const BoxList* GetList(const Tree& node) {
+        const QnList<Box*>* const list = node.ExtentList;
+        return BoxList::From(list);
+    }
+    static void AppendHits(const BoxHits& hits, Boxes& result) {
+        for (const BoxHits::Hit& hit : hits) {
+            result.Append(hit.box);
+        }
+    }
+};
+
+using QuadTreeWork = BoxTree<QnGeQuadTree2d, PlanSectors<QnGeQuadTree2d>, OrderedBoxLists>;
+
+}  // namespace qn_detail
