@@ -4,11 +4,14 @@
 // InterBreakCurve2d looks at every pair of members once and notes where they meet on either, then splits.
 //
 // Phases     1  Members      the planar curves of the list and their boxes, each asked for once; an index over these
-//            2  CollectPas   for each member, from the last to the first, those before it whose boxes meet its own
-//            3  SplitAll     the parameters of each member in ascending order to its own Split
-// Why so     The pairs are taken in the order of the plain double loop, and a member's parameters arrive in that order:
-//            where one is no number, what SortInto makes of it depends on it. Two segments, of which long lists mostly
-//            consist, meet by the operations of their IntersectWith in their order, but without an object for a point.
+//            2  FindPairs    for each member, neighbours after neighbours, those before it whose boxes meet its own; two
+//                            segments, of which long lists mostly consist, are met at once
+//            3  CollectPas   from the last member to the first: its pairs that are left are met by IntersectWith, and the
+//                            parameters of all entered
+//            4  SplitAll     the parameters of each member in ascending order to its own Split
+// Why so     Curves are asked, and parameters arrive, in the order of the plain double loop: where a parameter is no
+//            number, what SortInto makes of the others depends on it. Segments meet by the operations of their
+//            IntersectWith in their order, but without an object for a point.
 // Cost       n log n for the index; then by the pairs whose boxes meet.
 //
 // InterBreakCurveEx2d cuts the pieces of each member by every other member as the knife, in the order of the list. A
@@ -81,75 +84,79 @@ double GetSearchGap() {
 
 // ---- members -----------------------------------------------------------------------------------------
 
-/// One entry of the list.
+/// One entry of the list, with all that its pairs ask of it side by side.
 struct Member {
+    explicit Member(const QnGeObject& entry) : object(&entry), reach(entry) {
+        if (entry.IsClassOf(&QnGeCurve2d::s_classInfo)) {
+            curve = static_cast<const QnGeCurve2d*>(&entry);
+        }
+        if (typeid(entry) == typeid(QnGeLineSeg2d)) {
+            isSegment = true;
+            segment = SegmentOnLine(static_cast<const QnGeLineSeg2d&>(entry));
+        }
+    }
+
     const QnGeObject* object;
-    const QnGeCurve2d* curve;  ///< null if it is no planar curve: it then takes no part and stays whole
-    long segment;              ///< among the segments, or -1
+    const QnGeCurve2d* curve = nullptr;  ///< null if it is no planar curve: it then takes no part and stays whole
+    Reach reach;
+    bool isSegment = false;
+    SegmentOnLine segment;
 };
+
+using Members = PodArray<Member>;
 
 /// The entries of a list that are objects, in order.
-class Members {
-public:
-    explicit Members(const QnGeObjList& list) {
-        m_members.SetSpace(list.GetLength());
-        m_reaches.SetSpace(list.GetLength());
-        for (auto entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
-            if (*entry != nullptr) {
-                Add(**entry);
-            }
+Members MembersOf(const QnGeObjList& list) {
+    Members members;
+    members.SetSpace(list.GetLength());
+    for (auto entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
+        if (*entry != nullptr) {
+            members.Append(Member(**entry));
         }
     }
+    return members;
+}
 
-    long GetCount() const { return m_members.GetLength(); }
-    const Member& operator[](long i) const { return m_members[i]; }
-    const Reach& GetReach(long i) const { return m_reaches[i]; }
-    const SegmentOnLine& GetSegment(const Member& member) const { return m_segments[member.segment]; }
-
-    /// An index over the boxes of all members.
-    BoxSearch MakeSearch() const {
-        PodArray<PlanBox> boxes(GetCount());
-        for (long i = 0; i < GetCount(); ++i) {
-            boxes[i] = m_reaches[i].box;
-        }
-        return BoxSearch(boxes.begin(), GetCount());
+/// An index over the boxes of all members.
+BoxSearch SearchOf(const Members& members) {
+    PodArray<PlanBox> boxes(members.GetLength());
+    for (long i = 0; i < members.GetLength(); ++i) {
+        boxes[i] = members[i].reach.box;
     }
-
-private:
-    void Add(const QnGeObject& object) {
-        Member member = {&object, nullptr, -1};
-        if (object.IsClassOf(&QnGeCurve2d::s_classInfo)) {
-            member.curve = static_cast<const QnGeCurve2d*>(&object);
-        }
-        if (typeid(object) == typeid(QnGeLineSeg2d)) {
-            member.segment = m_segments.Append(SegmentOnLine(static_cast<const QnGeLineSeg2d&>(object)));
-        }
-        m_members.Append(member);
-        m_reaches.Append(Reach(object));
-    }
-
-    PodArray<Member> m_members;
-    PodArray<Reach> m_reaches;
-    PodArray<SegmentOnLine> m_segments;
-};
+    return BoxSearch(boxes.begin(), boxes.GetLength());
+}
 
 // ---- breaking at all crossings -----------------------------------------------------------------------
 
 /// InterBreakCurve2d.
 class CurveBreaker {
 public:
-    explicit CurveBreaker(const QnGeObjList& list) : m_members(list), m_search(m_members.MakeSearch()) {}
+    explicit CurveBreaker(const QnGeObjList& list) : m_members(MembersOf(list)), m_search(SearchOf(m_members)) {}
 
+    void FindPairs();
     void CollectPas();
     void SplitAll(QnGeObjList& out);
 
 private:
+    /// What is known of a member and one before it whose box meets its own.
+    struct Pair {
+        std::int32_t other;
+        bool
+            isPoint;  ///< the two are segments that meet in a point, at these parameters; otherwise they are to be asked
+        double pa;
+        double otherPa;
+    };
+    struct PairRange {
+        std::int32_t first;
+        std::int32_t end;
+    };
     struct MemberPa {
         std::int32_t member;
         double pa;
     };
 
-    void MeetPair(long i, long j);
+    void FindPairsOf(long i);
+    void MeetPair(const Member& member, const Member& other, std::int32_t j);
     void MeetObjects(long i, long j);
     void EnterPoint(const QnGePoint& pt, long i, long j);
     void EnterPa(const QnGePoint& pt, long i);
@@ -157,48 +164,64 @@ private:
 
     Members m_members;
     BoxSearch m_search;
+    Indexes m_candidates;
+    PodArray<Pair> m_pairs;
+    PodArray<PairRange> m_pairsOf;  ///< by member
     PodArray<MemberPa> m_pas;
     QnGeObjList m_hits;
 };
 
-void CurveBreaker::CollectPas() {
-    Indexes candidates;
-    const double gap = GetSearchGap();
-    for (long i = m_members.GetCount() - 1; i >= 0; --i) {
-        if (m_members[i].curve == nullptr) {
-            continue;
+void CurveBreaker::FindPairs() {
+    Indexes order;
+    m_search.ListByPlace(order);
+    m_pairsOf = PodArray<PairRange>(m_members.GetLength());
+    for (const std::int32_t i : order) {
+        const auto first = static_cast<std::int32_t>(m_pairs.GetLength());
+        if (m_members[i].curve != nullptr) {
+            FindPairsOf(i);
         }
-        const Reach& reach = m_members.GetReach(i);
-        m_search.Find(reach.box.Widened(gap), 0, i, candidates);
-        for (const std::int32_t j : candidates) {
-            if (m_members[j].curve != nullptr && IsExtentInter(reach, m_members.GetReach(j))) {
-                MeetPair(i, j);
-            }
+        m_pairsOf[i] = {first, static_cast<std::int32_t>(m_pairs.GetLength())};
+    }
+}
+
+void CurveBreaker::FindPairsOf(long i) {
+    const Member& member = m_members[i];
+    m_search.Find(member.reach.box.Widened(GetSearchGap()), 0, i, m_candidates);
+    for (const std::int32_t j : m_candidates) {
+        const Member& other = m_members[j];
+        if (other.curve != nullptr && IsExtentInter(member.reach, other.reach)) {
+            MeetPair(member, other, j);
         }
     }
 }
 
-void CurveBreaker::MeetPair(long i, long j) {
-    const Member& first = m_members[i];
-    const Member& second = m_members[j];
-    if (first.segment < 0 || second.segment < 0) {
-        MeetObjects(i, j);
-        return;
+void CurveBreaker::MeetPair(const Member& member, const Member& other, std::int32_t j) {
+    Pair pair = {j, false, 0.0, 0.0};
+    if (member.isSegment && other.isSegment) {
+        double x = 0.0;
+        double y = 0.0;
+        const SegmentMeeting meeting = member.segment.Meet(other.segment, x, y);
+        if (meeting == SegmentMeeting::NONE) {
+            return;
+        }
+        if (meeting == SegmentMeeting::POINT) {
+            pair = {j, true, member.segment.GetPa(x, y), other.segment.GetPa(x, y)};
+        }
     }
-    const SegmentOnLine& a = m_members.GetSegment(first);
-    const SegmentOnLine& b = m_members.GetSegment(second);
-    double x = 0.0;
-    double y = 0.0;
-    switch (a.Meet(b, x, y)) {
-        case SegmentMeeting::POINT:
-            m_pas.Append({static_cast<std::int32_t>(i), a.GetPa(x, y)});
-            m_pas.Append({static_cast<std::int32_t>(j), b.GetPa(x, y)});
-            break;
-        case SegmentMeeting::ON_ONE_LINE:
-            MeetObjects(i, j);
-            break;
-        case SegmentMeeting::NONE:
-            break;
+    m_pairs.Append(pair);
+}
+
+void CurveBreaker::CollectPas() {
+    for (auto i = static_cast<std::int32_t>(m_members.GetLength()); i-- > 0;) {
+        for (std::int32_t k = m_pairsOf[i].first; k < m_pairsOf[i].end; ++k) {
+            const Pair& pair = m_pairs[k];
+            if (pair.isPoint) {
+                m_pas.Append({i, pair.pa});
+                m_pas.Append({pair.other, pair.otherPa});
+            } else {
+                MeetObjects(i, pair.other);
+            }
+        }
     }
 }
 
@@ -240,7 +263,7 @@ void CurveBreaker::EnterPa(const QnGePoint& pt, long i) {
 
 /// The parameters of member i, as they arrived, are those from starts[i] to before starts[i + 1].
 void CurveBreaker::GroupByMember(PodArray<double>& pas, PodArray<std::int32_t>& starts) const {
-    const long count = m_members.GetCount();
+    const long count = m_members.GetLength();
     starts = PodArray<std::int32_t>(count + 1);
     std::fill(starts.begin(), starts.end(), 0);
     for (const MemberPa& entry : m_pas) {
@@ -258,6 +281,18 @@ void CurveBreaker::GroupByMember(PodArray<double>& pas, PodArray<std::int32_t>& 
     starts[count] = static_cast<std::int32_t>(m_pas.GetLength());
 }
 
+/// std::stable_sort, without its buffer for the few numbers that most members have.
+void StableSort(double* first, double* last) {
+    constexpr long FEW = 24;
+    if (last - first > FEW) {
+        std::stable_sort(first, last);
+        return;
+    }
+    for (double* next = first; next != last; ++next) {
+        std::rotate(std::upper_bound(first, next, *next), next, next + 1);
+    }
+}
+
 /// What SortInto makes of the parameters one by one: ascending, of exactly equal ones the first.
 void SortExactly(double* first, double* last, QnDynArray<double>& sorted) {
     sorted.Reset();
@@ -267,7 +302,7 @@ void SortExactly(double* first, double* last, QnDynArray<double>& sorted) {
         }
         return;
     }
-    std::stable_sort(first, last);
+    StableSort(first, last);
     last = std::unique(first, last);
     for (; first != last; ++first) {
         sorted.Append(*first);
@@ -297,7 +332,7 @@ void CurveBreaker::SplitAll(QnGeObjList& out) {
     GroupByMember(pas, starts);
     QnDynArray<double> sorted(0, PA_ALLOC_UNIT);
     QnGeObjList pieces;
-    for (long i = 0; i < m_members.GetCount(); ++i) {
+    for (long i = 0; i < m_members.GetLength(); ++i) {
         if (starts[i] == starts[i + 1]) {
             AppendClone(*m_members[i].object, out);
             continue;
@@ -316,9 +351,9 @@ void CurveBreaker::SplitAll(QnGeObjList& out) {
 ///            that are left are searched again.
 class MemberCutter {
 public:
-    explicit MemberCutter(const QnGeObjList& list) : m_members(list), m_search(m_members.MakeSearch()) {}
+    explicit MemberCutter(const QnGeObjList& list) : m_members(MembersOf(list)), m_search(SearchOf(m_members)) {}
 
-    long GetCount() const { return m_members.GetCount(); }
+    long GetCount() const { return m_members.GetLength(); }
 
     /// Appends the pieces of a member to `out`.
     void Cut(long member, QnGeObjList& out);
@@ -365,7 +400,7 @@ void MemberCutter::FindKnives(long first) {
     const double gap = GetSearchGap();
     m_searched = hull.Widened(PIECE_ROUNDING * gap);
     m_reachesOut = false;
-    m_search.Find(m_searched.Widened(gap), first, m_members.GetCount(), m_knives);
+    m_search.Find(m_searched.Widened(gap), first, m_members.GetLength(), m_knives);
 }
 
 void MemberCutter::Cut(long member, QnGeObjList& out) {
@@ -375,7 +410,7 @@ void MemberCutter::Cut(long member, QnGeObjList& out) {
         return;
     }
     m_reaches.Clear();
-    AddPiece(std::move(whole), m_members.GetReach(member));
+    AddPiece(std::move(whole), m_members[member].reach);
     m_reachesOut = m_members[member].curve != nullptr;
     for (long next = 0; m_reachesOut;) {
         FindKnives(next);
@@ -399,7 +434,7 @@ bool MemberCutter::MeetsAPiece(const Reach& knife) const {
 
 /// Replaces each piece that the knife may meet by what the knife makes of it.
 void MemberCutter::CutBy(long knife) {
-    const Reach& knifeReach = m_members.GetReach(knife);
+    const Reach& knifeReach = m_members[knife].reach;
     if (!MeetsAPiece(knifeReach)) {
         return;
     }
@@ -429,6 +464,7 @@ void MemberCutter::CutBy(long knife) {
 
 void QnGeObjList::InterBreakCurve2d(QnGeObjList& out) const {
     CurveBreaker breaker(*this);
+    breaker.FindPairs();
     breaker.CollectPas();
     QnGeObjList broken;
     breaker.SplitAll(broken);

@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <vector>
 
 #include "support/RandomSource.h"
@@ -153,6 +155,24 @@ TEST(BoxSearch, ReusesTheCallersList) {
     search.Find({2.0, 3.25, 0.0, 1.0}, 0, 1000, found);
     EXPECT_EQ(Indexes(found.begin(), found.end()), (Indexes{2, 3}));
     EXPECT_EQ(found.GetMemory(), memory);
+}
+
+TEST(BoxSearch, ListsEachIndexOnceByPlace) {
+    for (const int count : {0, 1, 8, 9, 1000}) {
+        RandomSource random(BaseSeed());
+        Boxes boxes(static_cast<std::size_t>(count));
+        for (PlanBox& box : boxes) {
+            box = AnyBox(random, random.OneIn(9) ? 5 : 0, 0.0);
+        }
+        const BoxSearch search(boxes.data(), count);
+        PodArray<std::int32_t> listed;
+        search.ListByPlace(listed);
+        Indexes indexes(listed.begin(), listed.end());
+        std::sort(indexes.begin(), indexes.end());
+        Indexes all(boxes.size());
+        std::iota(all.begin(), all.end(), 0);
+        EXPECT_EQ(indexes, all);
+    }
 }
 
 }  // namespace

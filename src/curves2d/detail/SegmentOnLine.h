@@ -26,6 +26,8 @@ enum class SegmentMeeting {
 /// numbers come out.
 class SegmentOnLine {
 public:
+    /// A place to be filled by assignment; no segment yet.
+    SegmentOnLine() = default;
     explicit SegmentOnLine(const QnGeLineSeg2d& segment)
         : m_baseX(segment.basePoint.x), m_baseY(segment.basePoint.y), m_x(segment.x), m_y(segment.y) {
         QnGeVector2d unit(segment.GetVector());

@@ -33,20 +33,15 @@ struct Centre {
     std::int32_t index;
 };
 
-bool IsLeftOf(const Centre& a, const Centre& b) {
-    return a.x < b.x;
-}
-
-bool IsBelow(const Centre& a, const Centre& b) {
-    return a.y < b.y;
-}
-
+// Of many centres a sample tells well enough.
 bool IsWide(const Centre* centres, long count) {
+    constexpr long SAMPLE = 256;
+    const long step = count / SAMPLE + 1;
     double x0 = centres->x;
     double x1 = x0;
     double y0 = centres->y;
     double y1 = y0;
-    for (long i = 1; i < count; ++i) {
+    for (long i = step; i < count; i += step) {
         x0 = std::min(x0, centres[i].x);
         x1 = std::max(x1, centres[i].x);
         y0 = std::min(y0, centres[i].y);
@@ -63,7 +58,14 @@ void OrderByPlace(Centre* centres, long count) {
         }
         const long children = (count - 1) / perChild + 1;
         const long half = children / 2 * perChild;
-        std::nth_element(centres, centres + half, centres + count, IsWide(centres, count) ? IsLeftOf : IsBelow);
+        const auto middle = centres + half;
+        if (IsWide(centres, count)) {
+            std::nth_element(centres, middle, centres + count,
+                             [](const Centre& a, const Centre& b) { return a.x < b.x; });
+        } else {
+            std::nth_element(centres, middle, centres + count,
+                             [](const Centre& a, const Centre& b) { return a.y < b.y; });
+        }
         OrderByPlace(centres, half);
         centres += half;
         count -= half;
@@ -163,6 +165,17 @@ void BoxSearch::Find(const PlanBox& query, long first, long end, PodArray<std::i
         Descend(m_levelNum - 1, 0, search);
     }
     std::sort(found.begin(), found.end());
+}
+
+void BoxSearch::ListByPlace(PodArray<std::int32_t>& indexes) const {
+    indexes.Clear();
+    indexes.SetSpace(m_count);
+    for (const std::int32_t index : m_index) {
+        indexes.Append(index);
+    }
+    for (const std::int32_t index : m_alwaysFound) {
+        indexes.Append(index);
+    }
 }
 
 void BoxSearch::Descend(int level, long group, const Query& query) const {

@@ -54,6 +54,10 @@ public:
     /// i + 1 and GetCount() for those after it.
     void Find(const PlanBox& query, long first, long end, PodArray<std::int32_t>& found) const;
 
+    /// Replaces `indexes` by all of them in an order in which neighbours lie close together: who asks for every box in
+    /// turn finds more of the tree in the cache.
+    void ListByPlace(PodArray<std::int32_t>& indexes) const;
+
     BoxSearch(const BoxSearch&) = delete;
     BoxSearch& operator=(const BoxSearch&) = delete;
 
