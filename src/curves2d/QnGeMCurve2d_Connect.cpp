@@ -29,27 +29,43 @@ std::unique_ptr<QnGeCurve2d> MakeBridge(const QnGeCurve2d& from, const QnGeCurve
     return std::make_unique<QnGeLineSeg2d>(end, start);
 }
 
+/// Makes a joint of two children; where that fails and `insertSeg` says so, `bridge` becomes a segment that joins them.
+///
+/// Fails  False where the joint is still missing; a missing child has no ends to join.
+bool MakeJoint(QnGeCurve2d* child, QnGeCurve2d* next, bool insertSeg, std::unique_ptr<QnGeCurve2d>& bridge) {
+    if (child == nullptr || next == nullptr) {
+        return false;
+    }
+    if (!ConnectCurveSeg(child, next, false, true)) {
+        if (!insertSeg) {
+            return false;
+        }
+        bridge = MakeBridge(*child, *next);
+    }
+    return true;
+}
+
 /// Moves the end of `child` and the start of `next`, one of which has been offset, to where their extensions meet.
 ///
 /// `offsetExtension` is the extension of the one that has been offset, from before the first joint moved it.
-bool JoinToNext(QnGeCurve2d& child, QnGeCurve2d& next, const QnGeCurve2d& offsetExtension) {
-    const std::unique_ptr<QnGeCurve2d> nextExtension(next.GetExtendCurve());
+bool JoinToNext(QnGeCurve2d& child, QnGeCurve2d* next, const QnGeCurve2d& offsetExtension) {
+    const std::unique_ptr<QnGeCurve2d> nextExtension(next != nullptr ? next->GetExtendCurve() : nullptr);
     if (nextExtension == nullptr) {
         return false;
     }
     child.Connect(*nextExtension, false, CLOSEST_TO_MOVING_END);
-    next.Connect(offsetExtension, true, CLOSEST_TO_MOVING_END);
-    return child.IsConnectWith(next);
+    next->Connect(offsetExtension, true, CLOSEST_TO_MOVING_END);
+    return child.IsConnectWith(*next);
 }
 
-bool JoinToPrevious(QnGeCurve2d& child, QnGeCurve2d& previous, const QnGeCurve2d& offsetExtension) {
-    const std::unique_ptr<QnGeCurve2d> previousExtension(previous.GetExtendCurve());
+bool JoinToPrevious(QnGeCurve2d& child, QnGeCurve2d* previous, const QnGeCurve2d& offsetExtension) {
+    const std::unique_ptr<QnGeCurve2d> previousExtension(previous != nullptr ? previous->GetExtendCurve() : nullptr);
     if (previousExtension == nullptr) {
         return false;
     }
     child.Connect(*previousExtension, true, CLOSEST_TO_MOVING_END);
-    previous.Connect(offsetExtension, false, CLOSEST_TO_MOVING_END);
-    return previous.IsConnectWith(child);
+    previous->Connect(offsetExtension, false, CLOSEST_TO_MOVING_END);
+    return previous->IsConnectWith(child);
 }
 
 }  // namespace
@@ -59,25 +75,25 @@ bool QnGeMCurve2d::ConnectSeg(bool closed, bool insertSeg) {
         return true;
     }
     long index = 0;
+    std::unique_ptr<QnGeCurve2d> bridge;
     QnGeCurve2d* const* entry = GetFirst();
     for (auto next = GetNext(entry); next != nullptr; next = GetNext(next)) {
-        if (!ConnectCurveSeg(*entry, *next, false, true)) {
-            if (!insertSeg) {
-                return false;
-            }
+        if (!MakeJoint(*entry, *next, insertSeg, bridge)) {
+            return false;
+        }
+        if (bridge != nullptr) {
             ++index;
-            List().Insert(index, MakeBridge(**entry, **next).release());
+            List().Insert(index, bridge.release());
         }
         ++index;
         entry = next;
     }
-    if (!closed || ConnectCurveSeg(*entry, *GetFirst(), false, true)) {
-        return true;
-    }
-    if (!insertSeg) {
+    if (closed && !MakeJoint(*entry, *GetFirst(), insertSeg, bridge)) {
         return false;
     }
-    List().Append(MakeBridge(**entry, **GetFirst()).release());
+    if (bridge != nullptr) {
+        List().Append(bridge.release());
+    }
     return true;
 }
 
@@ -85,8 +101,10 @@ bool QnGeMCurve2d::Offset(double dist) {
     const bool isClosed = IsClosed();
     QnGeObjList backup;
     for (auto entry = GetFirst(); entry != nullptr; entry = GetNext(entry)) {
-        backup.Append((*entry)->Clone());
-        (*entry)->Offset(dist);
+        backup.Append(*entry != nullptr ? (*entry)->Clone() : nullptr);
+        if (*entry != nullptr) {
+            (*entry)->Offset(dist);
+        }
     }
     if (ConnectSeg(isClosed, false)) {
         return true;
@@ -102,28 +120,25 @@ bool QnGeMCurve2d::Offset(double dist) {
 }
 
 bool QnGeMCurve2d::OffsetSeg(long i, double dist) {
-    const long count = GetSegNum();
-    if (i < 0 || i >= count) {
-        return false;
-    }
+    QnGeCurve2d* const child = GetPData(i);
     const bool isClosed = IsClosed();
-    QnGeCurve2d& child = *GetPData(i);
-    if (!child.Offset(dist)) {
+    if (child == nullptr || !child->Offset(dist)) {
         return false;
     }
+    const long count = GetSegNum();
     if (count == 1) {
         return true;
     }
-    const std::unique_ptr<QnGeCurve2d> extension(child.GetExtendCurve());
+    const std::unique_ptr<QnGeCurve2d> extension(child->GetExtendCurve());
     if (extension == nullptr) {
         return false;
     }
     const bool hasNext = isClosed || i + 1 < count;
-    if (hasNext && !JoinToNext(child, *GetPData((i + 1) % count), *extension)) {
+    if (hasNext && !JoinToNext(*child, GetPData((i + 1) % count), *extension)) {
         return false;
     }
     const bool hasPrevious = isClosed || i > 0;
-    if (hasPrevious && !JoinToPrevious(child, *GetPData((i - 1 + count) % count), *extension)) {
+    if (hasPrevious && !JoinToPrevious(*child, GetPData((i - 1 + count) % count), *extension)) {
         return false;
     }
     return true;
