@@ -85,7 +85,11 @@ void QnGeOctree::operator+=(QnGeExtent3d* box) {
 }
 
 bool QnGeOctree::Delete(QnGeExtent3d* box, bool deleteObject) {
-    return Work::Delete(*this, box, deleteObject);
+    QnGeExtent3d* const taken = Work::Take(*this, box);
+    if (deleteObject) {
+        delete taken;
+    }
+    return taken != nullptr;
 }
 
 void QnGeOctree::operator-=(QnGeExtent3d* box) {

@@ -60,7 +60,11 @@ void QnGeQuadTree2d::operator+=(QnGeExtent2d* box) {
 }
 
 bool QnGeQuadTree2d::Delete(QnGeExtent2d* box, bool deleteObject) {
-    return Work::Delete(*this, box, deleteObject);
+    QnGeExtent2d* const taken = Work::Take(*this, box);
+    if (deleteObject) {
+        delete taken;
+    }
+    return taken != nullptr;
 }
 
 void QnGeQuadTree2d::operator-=(QnGeExtent2d* box) {

@@ -21,33 +21,36 @@ BoxNode* BoxList::Add(Box* box, double centreX, double centreY) {
     return node;
 }
 
-bool BoxList::Take(const Box* box) {
-    if (m_order != nullptr) {
-        BoxNode* const node = m_order->Take(box);
-        if (node != nullptr) {
-            Remove(node);
-            return true;
+QnGeExtent2d* BoxList::Take(const Box* box) {
+    BoxNode* node = m_order != nullptr ? m_order->Take(box) : nullptr;
+    if (node == nullptr) {
+        node = FindNode(box);
+        if (node == nullptr) {
+            return nullptr;
+        }
+        MakeStale();  // the order, if there is one, holds the node at other coordinates
+    }
+    return Remove(node);
+}
+
+/// The node of the very object; where there is none, of the first that says it is the same.
+BoxNode* BoxList::FindNode(const Box* box) const {
+    for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
+        if (node->data == box) {
+            return node;
         }
     }
     for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
-        if (node->data == box || node->data->IsSameWith(box)) {
-            MakeStale();
-            Remove(node);
-            return true;
+        if (node->data->IsSameWith(box)) {
+            return node;
         }
     }
-    return false;
-}
-
-void BoxList::Take(BoxNode* node) {
-    if (m_order != nullptr && !m_order->Take(node)) {
-        MakeStale();
-    }
-    Remove(node);
+    return nullptr;
 }
 
 /// Takes a node out of the list that is in the order no more.
-void BoxList::Remove(BoxNode* node) {
+QnGeExtent2d* BoxList::Remove(BoxNode* node) {
+    Box* const box = node->data;
     Unlink(node);
     delete node;
     m_pTail = m_pHead->previous;
@@ -57,6 +60,7 @@ void BoxList::Remove(BoxNode* node) {
     if (m_nLength <= VERY_SHORT) {
         m_order.reset();
     }
+    return box;
 }
 
 /// The order if the list is long enough for one.

@@ -37,10 +37,8 @@ public:
 
     /// Appends a box and answers its node.
     BoxNode* Add(Box* box, double centreX, double centreY);
-    /// Takes the first element out that is this very object; false if there is none.
-    bool Take(const Box* box);
-    /// Takes the element of a node out.
-    void Take(BoxNode* node);
+    /// Takes the element out that is the same as `box` and answers it; null if there is none.
+    Box* Take(const Box* box);
     /// The boxes that hold a point, or meet a box, in order.
     void Find(double x, double y, double centreX, double centreY, BoxHits& hits) const;
     void Find(const Box& box, double centreX, double centreY, BoxHits& hits) const;
@@ -77,7 +75,8 @@ private:
     static bool IsBoxList(const Base* list) { return &typeid(*list) == &typeid(BoxList); }
     void MakeStale() { m_order.reset(); }
     const BoxOrder* GetOrder(double centreX, double centreY) const;
-    void Remove(BoxNode* node);
+    BoxNode* FindNode(const Box* box) const;
+    Box* Remove(BoxNode* node);
 
     mutable std::unique_ptr<BoxOrder> m_order;
 };

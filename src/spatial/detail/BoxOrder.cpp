@@ -158,8 +158,8 @@ struct BoxOrder::Block {
     Block* Enter(Key key, const FloatBox& box, void* item);
     Block* Add(Key key, const FloatBox& box, void* item);
     void JoinIfSmall(int i);
-    template <class Matches>
-    BoxNode* Take(Key first, Key last, const FloatBox& box, Matches matches);
+    void TidyAfterTake(int i, const FloatBox& taken);
+    BoxNode* Take(Key first, const FloatBox& frame, const QnGeExtent2d* box);
     template <class IsHit>
     void Find(const FloatBox& box, IsHit isHit, BoxHits& hits) const;
     static void DeleteAll(Block* block);
@@ -237,14 +237,14 @@ void BoxOrder::Block::JoinIfSmall(int i) {
     Remove(upper);
 }
 
-/// Takes the first entry at height 0 with a key of the span that matches; `box` is its box.
-template <class Matches>
-BoxNode* BoxOrder::Block::Take(Key first, Key last, const FloatBox& box, Matches matches) {
+/// Takes the first entry of a box at height 0; `first` is the lowest key that it can have.
+BoxNode* BoxOrder::Block::Take(Key first, const FloatBox& frame, const QnGeExtent2d* box) {
+    const Key last = first | MOST_ARRIVALS;
     if (height == 0) {
         int found = -1;
         for (int i = 0; i < count; ++i) {
             const bool isInSpan = keys[i] >= first && keys[i] <= last;
-            if (isInSpan && (found < 0 || keys[i] < keys[found]) && matches(GetNode(i))) {
+            if (isInSpan && (found < 0 || keys[i] < keys[found]) && GetNode(i)->data == box) {
                 found = i;
             }
         }
@@ -256,23 +256,27 @@ BoxNode* BoxOrder::Block::Take(Key first, Key last, const FloatBox& box, Matches
         return node;
     }
     for (int i = FindLastUpTo(first); i >= 0 && keys[i] <= last; i = FindNext(keys[i])) {
-        Block* const below = GetBlock(i);
-        BoxNode* const node = below->Take(first, last, box, matches);
-        if (node == nullptr) {
-            continue;
-        }
-        if (below->count == 0) {
-            delete below;
-            Remove(i);
+        BoxNode* const node = GetBlock(i)->Take(first, frame, box);
+        if (node != nullptr) {
+            TidyAfterTake(i, frame);
             return node;
         }
-        if (IsOnRim(box, GetBox(i))) {
-            SetBox(i, below->GetHull());
-        }
-        JoinIfSmall(i);
-        return node;
     }
     return nullptr;
+}
+
+/// Brings entry `i` up to date, from below which a box was taken.
+void BoxOrder::Block::TidyAfterTake(int i, const FloatBox& taken) {
+    Block* const below = GetBlock(i);
+    if (below->count == 0) {
+        delete below;
+        Remove(i);
+        return;
+    }
+    if (IsOnRim(taken, GetBox(i))) {
+        SetBox(i, below->GetHull());
+    }
+    JoinIfSmall(i);
 }
 
 void BoxOrder::Block::DeleteAll(Block* block) {
@@ -342,11 +346,9 @@ void BoxOrder::Add(BoxNode* node) {
     ++m_length;
 }
 
-template <class Matches>
-BoxNode* BoxOrder::TakeFirst(const QnGeExtent2d& box, Matches matches) {
-    const FloatBox frame = FrameOf(box);
-    const Key first = KeyOf(frame);
-    BoxNode* const node = m_root->Take(first, first | MOST_ARRIVALS, frame, matches);
+BoxNode* BoxOrder::Take(const QnGeExtent2d* box) {
+    const FloatBox frame = FrameOf(*box);
+    BoxNode* const node = m_root->Take(KeyOf(frame), frame, box);
     if (node == nullptr) {
         return nullptr;
     }
@@ -357,14 +359,6 @@ BoxNode* BoxOrder::TakeFirst(const QnGeExtent2d& box, Matches matches) {
     }
     --m_length;
     return node;
-}
-
-BoxNode* BoxOrder::Take(const QnGeExtent2d* box) {
-    return TakeFirst(*box, [box](const BoxNode* node) { return node->data == box; });
-}
-
-bool BoxOrder::Take(const BoxNode* wanted) {
-    return TakeFirst(*wanted->data, [wanted](const BoxNode* node) { return node == wanted; }) != nullptr;
 }
 
 void BoxOrder::Find(double x, double y, BoxHits& hits) const {

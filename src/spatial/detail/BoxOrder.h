@@ -37,9 +37,6 @@ public:
     /// Takes the first node with `box` out and answers it; null if there is none by the coordinates that `box` has.
     BoxNode* Take(const QnGeExtent2d* box);
 
-    /// Takes a node out; false if it is not found by the coordinates that its box has.
-    bool Take(const BoxNode* node);
-
     /// The boxes that hold a point, or meet a box, in the order of the list.
     void Find(double x, double y, BoxHits& hits) const;
     void Find(const QnGeExtent2d& box, BoxHits& hits) const;
@@ -61,8 +58,6 @@ public:
 private:
     FloatBox FrameOf(const QnGeExtent2d& box) const;
     FloatBox SearchBox(const QnGeExtent2d& box) const;
-    template <class Matches>
-    BoxNode* TakeFirst(const QnGeExtent2d& box, Matches matches);
 
     double m_centreX;
     double m_centreY;

@@ -28,16 +28,17 @@ struct PlainBoxLists {
 
     static void Append(Tree& node, Box* box) { AppendTo(node.ExtentList, box); }
 
-    /// Takes the first entry out that is the same as `box`; false if there is none.
-    static bool Take(Tree& node, const Box* box) {
+    /// Takes the first entry out that is the same as `box` and answers it; null if there is none.
+    static Box* Take(Tree& node, const Box* box) {
         QnList<Box*>& list = *node.ExtentList;
         for (list.MoveToFirst(); !list.IsOut(); list.MoveToNext()) {
-            if (list.GetCurData()->IsSameWith(box)) {
+            Box* const entry = list.GetCurData();
+            if (entry->IsSameWith(box)) {
                 list.DelCur();
-                return true;
+                return entry;
             }
         }
-        return false;
+        return nullptr;
     }
 
     static void HitPoint(const Tree& node, const QnGePoint& at, QnDynArrayBase<Box*>& result) {
@@ -75,48 +76,45 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
 
     // ---- taking out ------------------------------------------------------------------------------
 
-    static bool Delete(Tree& node, Box* box, bool deleteObject) {
+    /// Takes the very object `box` out and answers it; null if it is not there.
+    static Box* Take(Tree& node, const Box* box) {
         const int sector = SectorOf(node, *box);
-        if (sector == NO_SECTOR) {
-            return DeleteFromList(node, box, deleteObject);
+        if (sector == NO_SECTOR || node.Child[sector] == nullptr) {
+            return TakeHere(node, sector, box);
         }
         Tree*& child = node.Child[sector];
-        if (child == nullptr) {
-            return DeleteOne(node, box, deleteObject);
-        }
-        if (!Delete(*child, box, deleteObject)) {
-            return false;
-        }
-        if (IsEmpty(*child)) {
+        Box* const taken = Take(*child, box);
+        if (taken != nullptr && IsEmpty(*child)) {
             delete child;
             child = nullptr;
         }
-        return true;
+        return taken;
     }
 
-    static bool DeleteOne(Tree& node, Box* box, bool deleteObject) {
-        if (node.OneExtent == nullptr || !node.OneExtent->IsSameWith(static_cast<const Box*>(box))) {
-            return false;
-        }
-        if (deleteObject) {
-            delete node.OneExtent;
-        }
-        node.OneExtent = nullptr;
-        return true;
+    /// The same in the node where the way down by sectors ends.
+    static Box* TakeHere(Tree& node, int sector, const Box* box) {
+        return sector == NO_SECTOR ? TakeFromList(node, box) : TakeOne(node, box);
     }
 
-    static bool DeleteFromList(Tree& node, Box* box, bool deleteObject) {
-        if (node.ExtentList == nullptr || !BoxLists::Take(node, box)) {
-            return false;
+    static Box* TakeFromList(Tree& node, const Box* box) {
+        if (node.ExtentList == nullptr) {
+            return nullptr;
         }
+        Box* const taken = BoxLists::Take(node, box);
         if (node.ExtentList->IsEmpty()) {
             delete node.ExtentList;
             node.ExtentList = nullptr;
         }
-        if (deleteObject) {
-            delete box;
+        return taken;
+    }
+
+    static Box* TakeOne(Tree& node, const Box* box) {
+        Box* const one = node.OneExtent;
+        if (one == nullptr || !one->IsSameWith(box)) {
+            return nullptr;
         }
-        return true;
+        node.OneExtent = nullptr;
+        return one;
     }
 
     // ---- levels above ----------------------------------------------------------------------------
@@ -255,8 +253,8 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
 
     /// Appends the boxes that hold a point: deepest node first.
     static void HitPoint(const Tree& node, const QnGePoint& at, Boxes& result) {
-        const int sector = BoxSectors::Of(node, at);
-        if (sector != NO_SECTOR && BoxSectors::IsDivisible(node)) {
+        const int sector = SectorOf(node, at);
+        if (sector != NO_SECTOR) {
             if (node.Child[sector] != nullptr) {
                 HitPoint(*node.Child[sector], at, result);
             } else if (node.OneExtent != nullptr && BoxSectors::Holds(*node.OneExtent, at)) {

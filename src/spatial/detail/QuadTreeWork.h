@@ -27,7 +27,7 @@ struct OrderedBoxLists {
         }
     }
 
-    static bool Take(Tree& node, const Box* box) {
+    static Box* Take(Tree& node, const Box* box) {
         BoxList* const list = BoxList::From(node.ExtentList);
         return list != nullptr ? list->Take(box) : Plain::Take(node, box);
     }
@@ -41,6 +41,21 @@ struct OrderedBoxLists {
         BoxHits hits;
         list->Find(at.x, at.y, node.CenterX, node.CenterY, hits);
         AppendHits(hits, result);
+    }
+
+    /// The hits alone, for who does not need them all.
+    static void FindAtPoint(const Tree& node, const QnGePoint& at, BoxHits& hits) {
+        const BoxList* const list = GetList(node);
+        if (list != nullptr) {
+            list->Find(at.x, at.y, node.CenterX, node.CenterY, hits);
+            return;
+        }
+        const QnList<Box*>& foreign = *node.ExtentList;
+        for (Box* const* entry = foreign.GetFirst(); entry != nullptr; entry = foreign.GetNext(entry)) {
+            if ((*entry)->IsInclude(at.x, at.y)) {
+                hits.Add(0, *entry);
+            }
+        }
     }
 
     static void HitBox(const Tree& node, const Box& box, Boxes& result) {

@@ -17,7 +17,9 @@ struct SectorTree : Kind::Sectors {
     using Item = typename Kind::Item;
     using Sectors = typename Kind::Sectors;
 
-    static int SectorOf(const Tree& node, const Item& item) {
+    /// The child that a box or a point belongs to; NO_SECTOR if it stays in the node.
+    template <class Place>
+    static int SectorOf(const Tree& node, const Place& item) {
         const int sector = Sectors::Of(node, item);
         return sector != NO_SECTOR && Sectors::IsDivisible(node) ? sector : NO_SECTOR;
     }
@@ -62,6 +64,13 @@ struct SectorTree : Kind::Sectors {
 
     /// Goes down to where the item stays. An item that was alone in a leaf follows the newcomer down.
     static void Insert(Tree& tree, Item* item) {
+        NoPath path;
+        Insert(tree, item, path);
+    }
+
+    /// The same; `path.Down(child)` hears of each step down.
+    template <class Path>
+    static void Insert(Tree& tree, Item* item, Path& path) {
         Tree* node = &tree;
         while (true) {
             const int sector = SectorOf(*node, *item);
@@ -76,6 +85,7 @@ struct SectorTree : Kind::Sectors {
             Tree& child = ChildAt(*node, sector);
             if (Kind::One(*node) == nullptr) {
                 node = &child;
+                path.Down(child);
                 continue;
             }
             Insert(child, item);
@@ -83,6 +93,11 @@ struct SectorTree : Kind::Sectors {
             Kind::One(*node) = nullptr;
         }
     }
+
+private:
+    struct NoPath {
+        void Down(Tree&) {}
+    };
 };
 
 /// Appends to a list that its first item makes.
