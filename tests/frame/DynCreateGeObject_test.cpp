@@ -11,6 +11,7 @@
 #include "curves2d/QnGeCircle2d.h"
 #include "curves2d/QnGeLineRay2d.h"
 #include "curves2d/QnGeLineSeg2d.h"
+#include "curves2d/QnGeMCurve2d.h"
 #include "frame/QnGeClassId.h"
 #include "polylines/QnGePolyline2d.h"
 #include "regions/QnGeGeneralPolygon2d.h"
@@ -35,7 +36,7 @@ std::unique_ptr<T> Made(long id) {
 }
 
 /// Ids that make an object.
-const std::set<int> MAKING_IDS = {102, 111, 112, 113, 114, 115, 116, 117, 301, 302, 303, 1002};
+const std::set<int> MAKING_IDS = {102, 111, 112, 113, 114, 115, 116, 117, 118, 301, 302, 303, 1002};
 
 }  // namespace
 
@@ -91,6 +92,10 @@ TEST(DynCreateGeObject, MultiLinesAreEmptyAndOpen) {
     const std::unique_ptr<QnGePolyline2d> polyline = Made<QnGePolyline2d>(CLASS_ID_POLYLINE2D);
     EXPECT_EQ(polyline->GetVertexNum(), 0);
     EXPECT_FALSE(polyline->IsClosed());
+}
+
+TEST(DynCreateGeObject, AChainHasNoChildren) {
+    EXPECT_EQ(Made<QnGeMCurve2d>(CLASS_ID_MCURVE2D)->GetSegNum(), 0);
 }
 
 TEST(DynCreateGeObject, PolygonsAreEmptyAndClosed) {

@@ -20,7 +20,7 @@ using protocol::Sample;
 const std::set<long> COPYING = {102, 111, 112, 113, 114, 115, 116, 117, 1002};
 
 /// Classes without factory that clone all the same.
-const std::set<long> CLONING_WITHOUT_FACTORY = {118, 119};
+const std::set<long> CLONING_WITHOUT_FACTORY = {119};
 
 /// What can be said of an object: its class, its flags and its record, and its text where the class has one.
 std::string Description(const QnGeObject& object) {
@@ -181,6 +181,18 @@ TEST_P(AllClasses, NoOperationOnAPairFailsBadly) {
         protocol::CallWith(*object, *sample.Make());
     }
     protocol::CallWith(*object, *object);
+}
+
+TEST(Chain, EntriesWithoutACurveDoNoHarm) {
+    QnGeMCurve2d onlyGaps;
+    onlyGaps.Append(nullptr);
+    protocol::CallEverything(onlyGaps);
+    QnGeMCurve2d chain;
+    chain.Append(nullptr);
+    chain.Append(ParseGeoAs<QnGeCurve2d>("seg 0,0 4,0").release());
+    chain.Append(nullptr);
+    EXPECT_FALSE(chain.IsValid());
+    protocol::CallEverything(chain);
 }
 
 TEST(CopyFrom, AcceptsTheClassesOfTheTableAndRefusesAllOthers) {

@@ -39,7 +39,7 @@ const std::vector<Row>& Table() {
         MakeRow<QnGeArc2d, QnGeCurve2d>(115, "QnGeArc2d", true),
         MakeRow<QnGeMLine2d, QnGeCurve2d>(116, "QnGeMLine2d", true),
         MakeRow<QnGePolyline2d, QnGeMLine2d>(117, "QnGePolyline2d", true),
-        MakeRow<QnGeMCurve2d, QnGeCurve2d>(118, "QnGeMCurve2d", false),
+        MakeRow<QnGeMCurve2d, QnGeCurve2d>(118, "QnGeMCurve2d", true),
         MakeRow<QnGeEllipse2d, QnGeCurve2d>(119, "QnGeEllipse2d", false),
         MakeRow<QnGeEArc2d, QnGeCurve2d>(120, "QnGeEArc2d", false),
         MakeRow<QnGeSpline2d, QnGeCurve2d>(121, "QnGeSpline2d", false),

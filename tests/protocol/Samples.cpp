@@ -31,13 +31,6 @@ QnGeEllipse2d* MakeEllipse() {
     return ellipse;
 }
 
-QnGeObject* MakeChain() {
-    auto* const chain = new QnGeMCurve2d();
-    chain->Append(static_cast<QnGeCurve2d*>(Parsed("seg 0,0 4,0")));
-    chain->Append(static_cast<QnGeCurve2d*>(Parsed("arc 4,1 r1 from -pi/2 sweep pi/2")));
-    return chain;
-}
-
 QnGePolyline2d* BadPolyline() {
     auto* const line = new QnGePolyline2d(3, true);
     line->SetVertex(0, BadPoint());
@@ -50,6 +43,15 @@ QnGePolyline2d* BadPolyline() {
 const QnGeMLine2d& BadOutline() {
     static const std::unique_ptr<QnGeMLine2d> line(BadPolyline());
     return *line;
+}
+
+QnGeObject* BadChain() {
+    auto* const chain = new QnGeMCurve2d();
+    chain->Append(new QnGeLineSeg2d(BadPoint(), BadPoint()));
+    chain->Append(new QnGeMLine2d());
+    chain->Append(new QnGeArc2d(BadPoint(), NOT_A_NUMBER, INF, NOT_A_NUMBER));
+    chain->Append(new QnGeMCurve2d());
+    return chain;
 }
 
 QnGeGeneralPolygon2d* BadGeneralPolygon() {
@@ -110,7 +112,13 @@ const std::vector<Sample>& AllSamples() {
         {"PolylineNew", false, []() -> QnGeObject* { return new QnGePolyline2d(); }},
         {"PolylineOneVertex", false, []() -> QnGeObject* { return new QnGePolyline2d(1, false); }},
         {"PolylineBad", false, []() -> QnGeObject* { return BadPolyline(); }},
-        {"Chain", true, []() -> QnGeObject* { return MakeChain(); }},
+        {"Chain", true, []() -> QnGeObject* { return Parsed("chain seg 0,0 4,0 | arc 4,1 r1 from 3pi/2 sweep pi/2"); }},
+        {"ChainClosed", true,
+         []() -> QnGeObject* { return Parsed("chain seg 0,0 4,0 | pline 4,0@pi 0,2,0 | mline 0,2 -1,1 0,0"); }},
+        {"ChainToInfinity", true,
+         []() -> QnGeObject* { return Parsed("chain ray reversed 0,0 -1,0 | seg 0,0 4,0 | ray 4,0 1,1"); }},
+        {"ChainOfOneCircle", true, []() -> QnGeObject* { return Parsed("chain circle 1,2 r4 cw"); }},
+        {"ChainBad", false, []() -> QnGeObject* { return BadChain(); }},
         {"ChainNew", false, []() -> QnGeObject* { return new QnGeMCurve2d(); }},
         {"Ellipse", true, []() -> QnGeObject* { return MakeEllipse(); }},
         {"EllipseNew", false, []() -> QnGeObject* { return new QnGeEllipse2d(); }},
