@@ -11,6 +11,7 @@
 #include "PolylineTesting.h"
 #include "frame/QnGeObjList.h"
 #include "polylines/QnGePolyline2d.h"
+#include "support/reference/PlainSelfCross.h"
 #include "values/QnGePointList.h"
 
 using namespace polyline_testing;
@@ -26,33 +27,6 @@ std::vector<std::unique_ptr<QnGeCurve2d>> SegmentsOf(const QnGeMLine2d& line) {
         segments.emplace_back(static_cast<QnGeCurve2d*>(parts.TakeOffHead()));
     }
     return segments;
-}
-
-/// Every segment with every later one. Neighbours may meet in one point, the two arcs of a closed pair in two.
-bool PlainSelfCross(const QnGeMLine2d& line) {
-    const auto segments = SegmentsOf(line);
-    const std::size_t n = segments.size();
-    const bool pair = line.GetCI() == &QnGePolyline2d::s_classInfo && line.IsClosed() && n == 2;
-    for (std::size_t i = 0; i + 1 < n; ++i) {
-        for (std::size_t j = i + 1; j < n; ++j) {
-            QnGeObjList found;
-            segments[i]->IntersectWith(*segments[j], found);
-            if (found.IsEmpty()) {
-                continue;
-            }
-            if (found.GetAt(0)->GetClassID() != CLASS_ID_POINT2D) {
-                return true;
-            }
-            if (found.GetLength() > 1 && !pair) {
-                return true;
-            }
-            const bool neighbours = j == i + 1 || (i == 0 && j == n - 1 && line.IsClosed());
-            if (!neighbours) {
-                return true;
-            }
-        }
-    }
-    return false;
 }
 
 /// What two lines share: their pieces against each other, the second's pieces being asked.
@@ -133,7 +107,7 @@ TEST(PlainForms, SelfCrossing) {
         const unsigned seed = CaseSeed(120, i);
         RandomSource random(seed);
         const auto line = ContactLine(random, 9);
-        const bool expected = PlainSelfCross(*line);
+        const bool expected = plain_self_cross::IsSelfCross(*line);
         crossing += expected;
         ASSERT_EQ(line->IsSelfCross(), expected) << "seed " << seed << '\n' << Text(*line);
     }

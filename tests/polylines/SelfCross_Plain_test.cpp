@@ -70,6 +70,20 @@ void Turn(RandomSource& random, QnGeMLine2d& line) {
     line.Move(random.Double(-1e3, 1e3), random.Double(-1e3, 1e3));
 }
 
+/// Round a circle with flat bows on some of the edges, and now and then a vertex a few places ahead of its turn.
+QnGePolyline2d NearlySimpleLine(RandomSource& random, int count, bool closed) {
+    QnGePolyline2d line(0, closed);
+    for (int i = 0; i < count; ++i) {
+        const double ahead = random.OneIn(2 * count) ? random.Double(1.0, 5.0) : 0.0;
+        const double angle = 2.0 * PI * (i + ahead) / count;
+        const double radius = random.Double(9.5, 10.5);
+        const bool isArc = random.Coin() && (closed || i + 1 < count);
+        line.AppendVertex(QnGePoint(radius * std::cos(angle), radius * std::sin(angle)),
+                          isArc ? random.Double(-0.6, 0.6) : 0.0);
+    }
+    return line;
+}
+
 void ExpectSamePieces(const QnGeMLine2d& line, unsigned seed) {
     QnGeObjList plain;
     QnGeObjList found;
@@ -150,4 +164,24 @@ TEST(ExplodeSelfcrossPlain, LongLatticeLines) {
         }
         ASSERT_NO_FATAL_FAILURE(ExpectSamePieces(line, seed));
     }
+}
+
+TEST(IsSelfCrossPlain, LongLines) {
+    long crossing = 0;
+    for (int i = 0; i < FLOAT_LINES; ++i) {
+        const unsigned seed = CaseSeed(144, i);
+        RandomSource random(seed);
+        QnGePolyline2d line = NearlySimpleLine(random, random.Int(20, 120), random.Coin());
+        if (random.Coin()) {
+            Turn(random, line);
+        }
+        const bool expected = plain_self_cross::IsSelfCross(line);
+        crossing += expected;
+        ASSERT_EQ(line.IsSelfCross(), expected) << "seed " << seed << '\n' << Text(line);
+        const QnGeMLine2d chords(line);
+        ASSERT_EQ(chords.IsSelfCross(), plain_self_cross::IsSelfCross(chords)) << "seed " << seed << '\n'
+                                                                               << Text(chords);
+    }
+    EXPECT_GT(crossing, FLOAT_LINES / 5);
+    EXPECT_LT(crossing, FLOAT_LINES * 4 / 5);
 }

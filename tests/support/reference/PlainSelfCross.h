@@ -9,9 +9,34 @@
 #include "polylines/QnGeMLine2d.h"
 #include "values/QnGePoint2d.h"
 
-/// The plain form of taking a line apart at its crossings with itself: two loops over the segments at every level, and
-/// recursion on the two pieces of the first crossing. What the library gives must be equal bit for bit, in this order.
+/// The plain forms of asking a line for crossings with itself and of taking it apart there: two loops over the segments at every level, and
+/// recursion on the two pieces of the first crossing. The library's pieces must be equal bit for bit, in this order.
 namespace plain_self_cross {
+
+/// Every segment with every later one. Neighbours may meet in one point, the two segments of a closed pair in two.
+inline bool IsSelfCross(const QnGeMLine2d& line) {
+    const long n = line.GetSegNum();
+    std::vector<std::unique_ptr<QnGeCurve2d>> segments;
+    for (long i = 0; i < n; ++i) {
+        segments.emplace_back(line.GetCurveSeg(i));
+    }
+    for (long i = 0; i + 1 < n; ++i) {
+        for (long j = i + 1; j < n; ++j) {
+            QnGeObjList met;
+            segments[static_cast<std::size_t>(i)]->IntersectWith(*segments[static_cast<std::size_t>(j)], met);
+            if (met.IsEmpty()) {
+                continue;
+            }
+            const bool isPoint = met.GetAt(0)->GetClassID() == CLASS_ID_POINT2D;
+            const bool isTwofold = met.GetLength() > 1 && !(n == 2 && line.IsClosed());
+            const bool areNeighbours = j == i + 1 || (i == 0 && j == n - 1 && line.IsClosed());
+            if (!isPoint || isTwofold || !areNeighbours) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
 
 inline QnGeLineSeg2d SegmentOf(const QnGeMLine2d& line, long i) {
     QnGeBaseLine2d base;
