@@ -67,12 +67,27 @@ TEST(TextGeo, PartsAndMultiplesOfPi) {
 }
 
 TEST(TextGeo, WritesWhatItReads) {
-    for (const char* text :
-         {"point 4,0", "point 4,0,7", "line 0,0 1,0", "ray 0,0 1,0", "ray reversed 0,0,1 1,0.1", "seg 0,0 4,0",
-          "circle 0,0 r2", "circle -1.5,1e-07 r2 cw", "arc 0,0 r2 from 0 sweep 1.57",
-          "arc 0,0 r2 from 0.1 sweep 1.57 cw", "mline", "mline 0,0", "mline 0,0 1,0 1,1 close", "pline 0,0@1.57 4,0",
-          "pline 0,0@-1.57 4,0@2 5,5,5 close", "region 0,0 4,0 4,4", "region 0,0 4,0 4,4 | 1,1 1,2 2,2",
-          "general region circle 0,0 r5 | circle 0,0 r1 cw", "general region mline 0,0 4,0 4,4 close"}) {
+    for (const char* text : {"point 4,0",
+                             "point 4,0,7",
+                             "line 0,0 1,0",
+                             "ray 0,0 1,0",
+                             "ray reversed 0,0,1 1,0.1",
+                             "seg 0,0 4,0",
+                             "circle 0,0 r2",
+                             "circle -1.5,1e-07 r2 cw",
+                             "arc 0,0 r2 from 0 sweep 1.57",
+                             "arc 0,0 r2 from 0.1 sweep 1.57 cw",
+                             "mline",
+                             "mline 0,0",
+                             "mline 0,0 1,0 1,1 close",
+                             "pline 0,0@1.57 4,0",
+                             "pline 0,0@-1.57 4,0@2 5,5,5 close",
+                             "chain",
+                             "chain seg 0,0 4,0 | arc 4,2 r2 from 4.5 sweep 1 | ray 6,2 0,1",
+                             "region 0,0 4,0 4,4",
+                             "region 0,0 4,0 4,4 | 1,1 1,2 2,2",
+                             "general region circle 0,0 r5 | circle 0,0 r1 cw",
+                             "general region mline 0,0 4,0 4,4 close"}) {
         ExpectRoundTrip(text);
     }
 }
@@ -100,6 +115,9 @@ TEST(TextGeo, Lists) {
     ParseGeoList("point 1,0; seg 0,0 1,1", list);
     ParseGeoList("point 2,0", list);
     EXPECT_EQ(ToText(list), "point 1,0; seg 0,0 1,1; point 2,0");
+    QnGeObjList chains;
+    ParseGeoList("chain; chain seg 0,0 1,0 | seg 1,0 2,0; point 1,1", chains);
+    EXPECT_EQ(ToText(chains), "chain; chain seg 0,0 1,0 | seg 1,0 2,0; point 1,1");
     list.Append(nullptr);
     EXPECT_EQ(ToText(list), "point 1,0; seg 0,0 1,1; point 2,0; null");
     QnGeObjList broken;
@@ -115,6 +133,7 @@ TEST(TextGeo, ErrorsNameTextAndPosition) {
     EXPECT_EQ(MessageOf("circle 0,0 2"), "geometry text 'circle 0,0 2' at 11: expected 'r' and the radius");
     EXPECT_EQ(MessageOf("arc 0,0 r2 sweep 1"), "geometry text 'arc 0,0 r2 sweep 1' at 11: expected 'from'");
     EXPECT_EQ(MessageOf("region point 1,1"), "geometry text 'region point 1,1' at 16: expected a curve as boundary");
+    EXPECT_EQ(MessageOf("chain point 1,1"), "geometry text 'chain point 1,1' at 15: expected a curve as child");
     EXPECT_THROW(ParseGeoAs<QnGeArc2d>("point 1,2"), std::invalid_argument);
     EXPECT_THROW(ParsePoint("1"), std::invalid_argument);
 }
@@ -130,6 +149,9 @@ TEST(TextGeo, NearMeansSameClassSameDirectionNearNumbers) {
     EXPECT_FALSE(near("ray 0,0 1,0", "line 0,0 1,0"));
     EXPECT_FALSE(near("mline 0,0 1,0", "mline 0,0 1,0 close"));
     EXPECT_TRUE(near("pline 0,0@1e-12 1,0", "pline 0,0 1,0"));
+    EXPECT_TRUE(near("chain seg 0,0 4,0", "chain seg 0,1e-10 4,0"));
+    EXPECT_FALSE(near("chain seg 0,0 4,0 | seg 4,0 5,0", "chain seg 4,0 5,0 | seg 0,0 4,0"));
+    EXPECT_FALSE(near("chain seg 0,0 4,0", "seg 0,0 4,0"));
     EXPECT_FALSE(near("pline 0,0@0.1 1,0", "pline 0,0 1,0"));
 }
 

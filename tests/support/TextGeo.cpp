@@ -10,6 +10,7 @@
 #include "curves2d/QnGeCircle2d.h"
 #include "curves2d/QnGeLineRay2d.h"
 #include "curves2d/QnGeLineSeg2d.h"
+#include "curves2d/QnGeMCurve2d.h"
 #include "polylines/QnGePolyline2d.h"
 #include "regions/QnGeGeneralPolygon2d.h"
 #include "regions/QnGeGeneralRegion2d.h"
@@ -139,6 +140,16 @@ void WritePolyline(const QnGePolyline2d& line, ShapeText& text) {
 
 void WriteObject(const QnGeObject* object, ShapeText& text);
 
+void WriteChain(const QnGeMCurve2d& chain, ShapeText& text) {
+    text.Word("chain");
+    for (QnGeCurve2d* const* child = chain.GetFirst(); child != nullptr; child = chain.GetNext(child)) {
+        if (child != chain.GetFirst()) {
+            text.Word("|");
+        }
+        WriteObject(*child, text);
+    }
+}
+
 void WritePolygon(const QnGePolygon2d& polygon, ShapeText& text) {
     text.Word("region");
     WriteRing(polygon.Outline(), text);
@@ -179,6 +190,8 @@ void WriteFilled(const QnGeObject& object, ShapeText& text) {
         WriteMLine(static_cast<const QnGeMLine2d&>(object), text);
     } else if (info == &QnGePolyline2d::s_classInfo) {
         WritePolyline(static_cast<const QnGePolyline2d&>(object), text);
+    } else if (info == &QnGeMCurve2d::s_classInfo) {
+        WriteChain(static_cast<const QnGeMCurve2d&>(object), text);
     } else if (object.IsClassOf(&QnGePolygon2d::s_classInfo)) {
         WritePolygon(static_cast<const QnGePolygon2d&>(object), text);
     } else if (info == &QnGeGeneralRegion2d::s_classInfo) {

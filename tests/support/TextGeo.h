@@ -20,6 +20,7 @@
 ///     arc 0,0 r2 from 0 sweep pi/2 cw             the stored start angle and the positive sweep, `cw` as for circles
 ///     mline 0,0 1,0 1,1 close
 ///     pline 0,0@1.57 4,0 close                    @ is the bulge of the segment that starts there
+///     chain seg 0,0 4,0 | arc 4,2 r2 from 3pi/2 sweep pi          the children in order; `chain` alone has none
 ///     region 0,0 4,0 4,4 | 1,1 1,2 2,2            outline | hole | hole: closed rings of points as they stand
 ///     region circle 0,0 r5 | mline 0,0 0,1 1,1 close
 ///

@@ -8,6 +8,7 @@
 #include "curves2d/QnGeCircle2d.h"
 #include "curves2d/QnGeLineRay2d.h"
 #include "curves2d/QnGeLineSeg2d.h"
+#include "curves2d/QnGeMCurve2d.h"
 #include "polylines/QnGePolyline2d.h"
 #include "regions/QnGeGeneralPolygon2d.h"
 #include "regions/QnGeGeneralRegion2d.h"
@@ -50,6 +51,11 @@ public:
         if (!TakeWord(word)) {
             Fail("expected '" + word + "'");
         }
+    }
+
+    bool IsListSeparatorNext() {
+        SkipSpace();
+        return m_at < m_text.size() && m_text[m_at] == ';';
     }
 
     bool IsPointNext() {
@@ -206,6 +212,27 @@ std::unique_ptr<QnGeObject> ReadPolyline(TextReader& reader) {
 
 std::unique_ptr<QnGeObject> ReadObject(TextReader& reader);
 
+std::unique_ptr<QnGeCurve2d> ReadCurve(TextReader& reader, const char* expected) {
+    std::unique_ptr<QnGeObject> object = ReadObject(reader);
+    QnGeCurve2d* const curve = dynamic_cast<QnGeCurve2d*>(object.get());
+    if (curve == nullptr) {
+        reader.Fail(expected);
+    }
+    object.release();
+    return std::unique_ptr<QnGeCurve2d>(curve);
+}
+
+std::unique_ptr<QnGeObject> ReadChain(TextReader& reader) {
+    auto chain = std::make_unique<QnGeMCurve2d>();
+    if (reader.AtEnd() || reader.IsListSeparatorNext()) {
+        return chain;
+    }
+    do {
+        chain->Append(ReadCurve(reader, "expected a curve as child").release());
+    } while (reader.TakeSign('|'));
+    return chain;
+}
+
 /// A boundary of a region: a curve, or bare points, which are a closed ring.
 std::unique_ptr<QnGeCurve2d> ReadBoundary(TextReader& reader) {
     if (reader.IsPointNext()) {
@@ -213,13 +240,7 @@ std::unique_ptr<QnGeCurve2d> ReadBoundary(TextReader& reader) {
         ring->SetClosed(true);
         return ring;
     }
-    std::unique_ptr<QnGeObject> object = ReadObject(reader);
-    QnGeCurve2d* const curve = dynamic_cast<QnGeCurve2d*>(object.get());
-    if (curve == nullptr) {
-        reader.Fail("expected a curve as boundary");
-    }
-    object.release();
-    return std::unique_ptr<QnGeCurve2d>(curve);
+    return ReadCurve(reader, "expected a curve as boundary");
 }
 
 bool IsStraightRing(const QnGeCurve2d& curve) {
@@ -283,6 +304,9 @@ std::unique_ptr<QnGeObject> ReadObject(TextReader& reader) {
     }
     if (reader.TakeWord("pline")) {
         return ReadPolyline(reader);
+    }
+    if (reader.TakeWord("chain")) {
+        return ReadChain(reader);
     }
     const bool general = reader.TakeWord("general");
     if (reader.TakeWord("region")) {
