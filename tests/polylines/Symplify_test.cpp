@@ -27,7 +27,7 @@ std::unique_ptr<QnGePolyline2d> Compressed(QnGePolyline2d&& line) {
 }  // namespace
 
 TEST(Symplify, MergesSegmentsThatRunOn) {
-    ExpectGeo(SimplerThan(Straight("0,0 1,0 2,0")).get(), "seg 0,0 2,0");
+    ExpectGeo(SimplerThan(Straight("0,0 1,0 2,0")).get(), "mline 0,0 2,0");
     ExpectGeo(SimplerThan(Straight("0,0 1,0 2,0 2,1 2,5")).get(), "mline 0,0 2,0 2,5");
 }
 
