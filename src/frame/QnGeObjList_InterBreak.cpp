@@ -11,7 +11,8 @@
 //            4  SplitAll     the parameters of each member in ascending order to its own Split
 // Why so     Curves are asked, and parameters arrive, in the order of the plain double loop: where a parameter is no
 //            number, what SortInto makes of the others depends on it. Segments meet by the operations of their
-//            IntersectWith in their order, but without an object for a point.
+//            IntersectWith in their order, but without an object for a point; multi-lines by those of their segments
+//            that are near, and a point's parameter on one is asked of the segments near the point.
 // Cost       n log n for the index; then by the pairs whose boxes meet.
 //
 // InterBreakCurveEx2d cuts the pieces of each member by every other member as the knife, in the order of the list. A
@@ -34,6 +35,7 @@
 #include "curves2d/detail/SegmentOnLine.h"
 #include "frame/QnGeObjList.h"
 #include "frame/QnGeTolerance.h"
+#include "polylines/detail/SegmentTable.h"
 #include "values/QnGeExtent2d.h"
 #include "values/QnGePoint2d.h"
 #include "values/detail/BoxSearch.h"
@@ -45,6 +47,8 @@ using qn_detail::PlanBox;
 using qn_detail::PodArray;
 using qn_detail::SegmentMeeting;
 using qn_detail::SegmentOnLine;
+using qn_detail::SegmentTable;
+using qn_detail::SegmentView;
 using Indexes = PodArray<std::int32_t>;
 
 constexpr long PA_ALLOC_UNIT = 10;
@@ -131,18 +135,18 @@ BoxSearch SearchOf(const Members& members) {
 /// InterBreakCurve2d.
 class CurveBreaker {
 public:
-    explicit CurveBreaker(const QnGeObjList& list) : m_members(MembersOf(list)), m_search(SearchOf(m_members)) {}
+    explicit CurveBreaker(const QnGeObjList& list);
 
     void FindPairs();
     void CollectPas();
     void SplitAll(QnGeObjList& out);
 
 private:
-    /// What is known of a member and one before it whose box meets its own.
+    /// What is known of a member and one before it whose box meets its own. Two segments are met already, at these
+    /// parameters; other pairs are still to be asked.
     struct Pair {
         std::int32_t other;
-        bool
-            isPoint;  ///< the two are segments that meet in a point, at these parameters; otherwise they are to be asked
+        bool isPoint;
         double pa;
         double otherPa;
     };
@@ -155,9 +159,12 @@ private:
         double pa;
     };
 
+    bool HasSegments(long i) const;
     void FindPairsOf(long i);
     void MeetPair(const Member& member, const Member& other, std::int32_t j);
     void MeetObjects(long i, long j);
+    void MeetStraight(long i, long j);
+    void EnterHits(long i, long j);
     void EnterPoint(const QnGePoint& pt, long i, long j);
     void EnterPa(const QnGePoint& pt, long i);
     void GroupByMember(PodArray<double>& pas, PodArray<std::int32_t>& starts) const;
@@ -169,7 +176,33 @@ private:
     PodArray<PairRange> m_pairsOf;  ///< by member
     PodArray<MemberPa> m_pas;
     QnGeObjList m_hits;
+
+    SegmentTable m_segments;  ///< of segments and multi-lines, where there is a multi-line
+    bool m_hasSegments = false;
+    PodArray<SegmentTable::Range> m_segmentsOf;  ///< by member; NO_SEGMENTS for other classes
+    Indexes m_nearOther;
 };
+
+constexpr SegmentTable::Range NO_SEGMENTS = {-1, -1, NOWHERE};
+
+CurveBreaker::CurveBreaker(const QnGeObjList& list) : m_members(MembersOf(list)), m_search(SearchOf(m_members)) {
+    m_hasSegments = std::any_of(m_members.begin(), m_members.end(), [](const Member& member) {
+        return member.curve != nullptr && !member.isSegment && SegmentTable::IsStraight(*member.curve);
+    });
+    if (!m_hasSegments) {
+        return;
+    }
+    m_segmentsOf.SetSpace(m_members.GetLength());
+    for (const Member& member : m_members) {
+        const bool isStraight = member.curve != nullptr && SegmentTable::IsStraight(*member.curve);
+        m_segmentsOf.Append(isStraight ? m_segments.Append(*member.curve) : NO_SEGMENTS);
+    }
+    m_segments.MakeSearch();
+}
+
+bool CurveBreaker::HasSegments(long i) const {
+    return m_hasSegments && m_segmentsOf[i].first >= 0;
+}
 
 void CurveBreaker::FindPairs() {
     Indexes order;
@@ -226,7 +259,41 @@ void CurveBreaker::CollectPas() {
 }
 
 void CurveBreaker::MeetObjects(long i, long j) {
+    if (HasSegments(i) && HasSegments(j)) {
+        MeetStraight(i, j);
+        return;
+    }
     m_members[i].curve->IntersectWith(*m_members[j].curve, m_hits);
+    EnterHits(i, j);
+}
+
+/// What IntersectWith comes to where both are segments or multi-lines: the pairs of their segments in order. A
+/// multi-line as the argument is asked for its segments at the end of all handing over, so these receive.
+void CurveBreaker::MeetStraight(long i, long j) {
+    const bool otherReceives = !m_members[j].isSegment;
+    SegmentView view;
+    SegmentView otherView;
+    m_segments.FindNearRange(m_segmentsOf[i], m_segmentsOf[j], m_candidates);
+    for (const std::int32_t a : m_candidates) {
+        m_segments.FindNear(m_segmentsOf[j], a, m_nearOther);
+        for (const std::int32_t b : m_nearOther) {
+            const std::int32_t receiver = otherReceives ? b : a;
+            const std::int32_t argument = otherReceives ? a : b;
+            QnGePoint pt;
+            const SegmentMeeting meeting = m_segments[receiver].Meet(m_segments[argument], pt.x, pt.y);
+            if (meeting == SegmentMeeting::POINT) {
+                EnterPoint(pt, i, j);
+            } else if (meeting == SegmentMeeting::ON_ONE_LINE) {
+                const QnGeLineSeg2d& segment = m_segments.GetSegment(receiver, view);
+                segment.IntersectWith(m_segments.GetSegment(argument, otherView), m_hits);
+                EnterHits(i, j);
+            }
+        }
+    }
+}
+
+/// Enters what the two have in common, and forgets it.
+void CurveBreaker::EnterHits(long i, long j) {
     for (auto entry = m_hits.GetFirst(); entry != nullptr; entry = m_hits.GetNext(entry)) {
         const QnGeObject* const hit = *entry;
         if (hit == nullptr) {
@@ -256,7 +323,9 @@ void CurveBreaker::EnterPoint(const QnGePoint& pt, long i, long j) {
 /// A point of which the curve knows no parameter does not break it.
 void CurveBreaker::EnterPa(const QnGePoint& pt, long i) {
     double pa = 0.0;
-    if (m_members[i].curve->GetPaFromPt(pt, pa)) {
+    const bool isKnown =
+        HasSegments(i) ? m_segments.GetPaFromPt(m_segmentsOf[i], pt, pa) : m_members[i].curve->GetPaFromPt(pt, pa);
+    if (isKnown) {
         m_pas.Append({static_cast<std::int32_t>(i), pa});
     }
 }

@@ -48,6 +48,40 @@ TEST(InterBreakAgreement, OfObjectsOfAllClasses) {
     }
 }
 
+/// A walk over a lattice or anywhere, sometimes back and forth, in place, or through what is no number.
+QnGeMLine2d AnyWalk(RandomSource& random, bool lattice) {
+    const long most = random.OneIn(20) ? 200 : 12;
+    QnGeMLine2d walk(random.Long(0, most), random.OneIn(4));
+    QnGePoint at(random.Int(0, 8), random.Int(0, 8));
+    for (long i = 0; i < walk.GetVertexNum(); ++i) {
+        at.x += lattice ? random.Int(-1, 1) : random.Double(-1.0, 1.0);
+        at.y += lattice ? random.Int(-1, 1) : random.Double(-1.0, 1.0);
+        const bool isSpoilt = random.OneIn(400);
+        walk.SetVertex(i, isSpoilt ? QnGePoint(random.Coin() ? std::nan("") : HUGE_VAL, at.y) : at);
+    }
+    return walk;
+}
+
+TEST(InterBreakAgreement, OfMultiLinesAndSegments) {
+    for (unsigned i = 0; i < 4000; ++i) {
+        RandomSource random(BaseSeed() + i);
+        const bool lattice = random.Coin();
+        CurveSoup soup(random, lattice);
+        QnGeObjList list;
+        for (long k = random.Long(2, 8); k > 0; --k) {
+            if (random.OneIn(3)) {
+                list.Append(random.OneIn(5) ? soup.Any() : new QnGeLineSeg2d(soup.Segment()));
+            } else {
+                list.Append(new QnGeMLine2d(AnyWalk(random, lattice)));
+            }
+        }
+        ExpectSamePieces(list, "seed " + std::to_string(BaseSeed() + i));
+        if (testing::Test::HasFatalFailure()) {
+            return;
+        }
+    }
+}
+
 TEST(InterBreakAgreement, OfManySegments) {
     for (unsigned i = 0; i < 300; ++i) {
         RandomSource random(BaseSeed() + i);
@@ -117,6 +151,8 @@ TEST(InterBreakAgreement, UnderOtherTolerances) {
             for (long k = random.Long(2, 8); k > 0; --k) {
                 if (random.OneIn(4)) {
                     list.Append(new QnGeArc2d(soup.Arc()));
+                } else if (random.OneIn(3)) {
+                    list.Append(new QnGeMLine2d(AnyWalk(random, random.Coin())));
                 } else {
                     list.Append(new QnGeLineSeg2d(soup.Segment()));
                 }

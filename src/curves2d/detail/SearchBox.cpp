@@ -45,7 +45,8 @@ PlanBox MakePrimitiveBox(const QnGeCurve2d& curve) {
     constexpr double ROUNDING = 1e-15;
     const PlanBox box = {extent.x.min, extent.x.max, extent.y.min, extent.y.max};
     const double size = (box.xMax - box.xMin) + (box.yMax - box.yMin);
-    const double gap = GAP_SHARE * g_distZero + 4.0 * (g_fZero + ROUNDING / g_fZero) * size + GetRoundSlack(curve);
+    const double gap =
+        GAP_SHARE * std::max(g_distZero, 0.0) + 4.0 * (g_fZero + ROUNDING / g_fZero) * size + GetRoundSlack(curve);
     const PlanBox grown = box.Widened(gap);
     return grown.IsBounded() ? grown : PLANE;
 }
