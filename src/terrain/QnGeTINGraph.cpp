@@ -2,8 +2,10 @@
 #include "terrain/QnGeTINGraph.h"
 
 #include "containers/QnDynArray.h"
-#include "values/QnGeAnalytic.h"
+#include "spatial/detail/TreeFinger.h"
+#include "terrain/detail/HullIndex.h"
 #include "values/QnGeBaseLine2d.h"
+#include "values/detail/PathType.h"
 
 namespace {
 
@@ -14,7 +16,7 @@ constexpr double MARGIN = 10.0;
 
 // ---- making ----------------------------------------------------------------------------------------
 
-QnGeTINGraph::QnGeTINGraph() = default;
+QnGeTINGraph::QnGeTINGraph() : m_finger(new qn_detail::TreeFinger(TrgTree)) {}
 
 QnGeTINGraph::~QnGeTINGraph() = default;
 
@@ -26,7 +28,8 @@ QnGeTINGraph::QnGeTINGraph(const QnGeTINGraph& other)
       Range(other.Range),
       NodeList(other.NodeList),
       TrgList(other.TrgList),
-      OutEdgeList(other.OutEdgeList) {
+      OutEdgeList(other.OutEdgeList),
+      m_finger(new qn_detail::TreeFinger(TrgTree)) {
     SetTreeRanges(other.TrgTree);
 }
 
@@ -38,11 +41,13 @@ QnGeTINGraph& QnGeTINGraph::operator=(const QnGeTINGraph& other) {
     TrgQuene = other.TrgQuene;
     TrgTree.Reset();
     NodeTree.Reset();
+    m_finger = std::make_unique<qn_detail::TreeFinger>(TrgTree);
     SetTreeRanges(other.TrgTree);
     Range = other.Range;
     NodeList = other.NodeList;
     TrgList = other.TrgList;
     OutEdgeList = other.OutEdgeList;
+    m_hull.reset();
     return *this;
 }
 
@@ -56,6 +61,9 @@ void QnGeTINGraph::SetRange(double xMin, double xMax, double yMin, double yMax) 
 }
 
 void QnGeTINGraph::SetTreeRanges(const QnGeExtent2d& range) {
+    if (!TrgTree.IsEmptyTree()) {
+        m_finger.reset();  // its nodes will not lie where the way from the root leads
+    }
     TrgTree.SetRange(range.x.min, range.x.max, range.y.min, range.y.max);
     NodeTree.SetRange(range.x.min, range.x.max, range.y.min, range.y.max);
 }
@@ -66,7 +74,11 @@ void QnGeTINGraph::PushLOP(QnGeTINTriangle* triangle) {
     triangle->Radius = -1.0;
     LOPStack.Push(triangle);
     if (triangle->HasBit(TRG_IN_TREE)) {
-        TrgTree.Delete(triangle, false);
+        if (m_finger != nullptr) {
+            m_finger->Delete(triangle);
+        } else {
+            TrgTree.Delete(triangle, false);
+        }
     }
 }
 
@@ -76,7 +88,11 @@ void QnGeTINGraph::PopLOP() {
         return;
     }
     triangle->UpdateExtend();
-    TrgTree.Insert(triangle);
+    if (m_finger != nullptr) {
+        m_finger->Insert(triangle);
+    } else {
+        TrgTree.Insert(triangle);
+    }
     triangle->SetBit(TRG_IN_TREE);
 }
 
@@ -107,37 +123,49 @@ int HitTestAtEdge(const QnGeTINNode& node, const QnGeTINTriangle& triangle, int 
     return pa > 0.0 && pa < 1.0 ? i + 1 : 0;
 }
 
+/// What a search for a node has come to.
+struct TriangleHit {
+    QnGeTINTriangle* triangle = nullptr;
+    int place = 0;
+
+    bool Decide(const QnGeTINNode& node, QnGeTINTriangle* candidate);
+};
+
+/// Whether this candidate ends the search: it holds the node, or the node is on the line of its hull edge, which leaves
+/// no triangle.
+bool TriangleHit::Decide(const QnGeTINNode& node, QnGeTINTriangle* candidate) {
+    for (int i = 0; i < 3; ++i) {
+        const int turn = qn_detail::PathTypeOf(node, *candidate->Node[i], *candidate->Node[i == 2 ? 0 : i + 1]);
+        if (turn == PATH_RIGHT) {
+            return false;
+        }
+        if (turn == PATH_STRAIGHT) {
+            if (candidate->NearTrg[i] == nullptr) {
+                return true;
+            }
+            place = HitTestAtEdge(node, *candidate, i);
+            triangle = place != 0 ? candidate : nullptr;
+            return place != 0;
+        }
+    }
+    triangle = candidate;
+    return true;
+}
+
 }  // namespace
 
 int QnGeTINGraph::HitTest(QnGeTINNode* node, QnGeTINTriangle*& triangle) {
-    triangle = nullptr;
-    QnDynArray<QnGeExtent2d*> candidates;
-    TrgTree.HitTest(node->x, node->y, candidates);
-    for (long n = 0; n < candidates.GetLength(); ++n) {
-        QnGeTINTriangle* const candidate = static_cast<QnGeTINTriangle*>(candidates.GetAt(n));
-        int i = 0;
-        int turn = PATH_LEFT;
-        for (; i < 3; ++i) {
-            turn = GetPathType(*node, *candidate->Node[i], *candidate->Node[(i + 1) % 3]);
-            if (turn != PATH_LEFT) {
-                break;
-            }
-        }
-        if (turn == PATH_RIGHT) {
-            continue;
-        }
-        if (turn == PATH_LEFT) {
-            triangle = candidate;
-            return 0;
-        }
-        if (candidate->NearTrg[i] == nullptr) {
-            return 0;  // on the line of a hull edge, which is for InsertOutside
-        }
-        const int hit = HitTestAtEdge(*node, *candidate, i);
-        if (hit != 0) {
-            triangle = candidate;
-            return hit;
-        }
+    TriangleHit hit;
+    const auto decide = [&hit, node](QnGeExtent2d* box) {
+        return hit.Decide(*node, static_cast<QnGeTINTriangle*>(box));
+    };
+    if (m_finger != nullptr) {
+        m_finger->VisitHits(node->x, node->y, decide);
+    } else {
+        QnDynArray<QnGeExtent2d*> boxes;
+        TrgTree.HitTest(node->x, node->y, boxes);
+        for (long i = 0; i < boxes.GetLength() && !decide(boxes.GetAt(i)); ++i) {}
     }
-    return 0;
+    triangle = hit.triangle;
+    return hit.place;
 }

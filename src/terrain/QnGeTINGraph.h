@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <memory>
+
 #include "containers/QnPDList.h"
 #include "containers/QnQuene.h"
 #include "containers/QnStack.h"
@@ -11,6 +13,11 @@
 #include "terrain/QnGeTINOutEdge.h"
 #include "terrain/QnGeTINTriangle.h"
 #include "values/QnGeExtent2d.h"
+
+namespace qn_detail {
+class HullIndex;
+class TreeFinger;
+}  // namespace qn_detail
 
 /// A triangulated network: nodes go in one by one, and the edges round each are flipped until no node lies within the
 /// circle of a triangle (Lawson's incremental Delaunay triangulation).
@@ -37,9 +44,10 @@ class QUARNGEO_API QnGeTINGraph {
 protected:
     QnDListStack<QnGeTINTriangle*> LOPStack;  ///< triangles whose edge 1 is still to be looked at
     QnListQuene<QnGeTINTriangle*> TrgQuene;   ///< unused here
-    QnGeQuadTree2d TrgTree;                   ///< the boxes of the triangles that are not on the stack
-    QnGePtQuadTree2d NodeTree;                ///< has its range from SetRange; holds nothing between calls
-    QnGeExtent2d Range;                       ///< of the nodes inserted so far
+    QnGeQuadTree2d
+        TrgTree;  ///< the boxes of the triangles that are not on the stack; changed by PushLOP and PopLOP only
+    QnGePtQuadTree2d NodeTree;  ///< has its range from SetRange; holds nothing between calls
+    QnGeExtent2d Range;         ///< of the nodes inserted so far
 
 public:
     QnPDList<QnGeTINNode> NodeList;        ///< before MakeTIN its input; then the nodes of the network
@@ -107,6 +115,7 @@ protected:
 
 private:
     void SetTreeRanges(const QnGeExtent2d& range);
+    qn_detail::HullIndex* GetHullIndex();
     bool InsertThird(QnGeTINNode* node);
     void Merge(QnGeTINNode& kept, QnGeTINNode* node);
     void SplitTriangle(QnGeTINNode* node, QnGeTINTriangle* triangle);
@@ -114,4 +123,8 @@ private:
     void JoinHullEdges(QnGeTINNode* node, long index);
     bool JoinHullLine(QnGeTINNode* node, long index);
     void SplitHullEdge(QnGeTINNode* node, long index, QnGeTINNode* from, QnGeTINNode* to);
+    void ReplaceHullEdges(long index, long count, QnGeTINOutEdge* first, QnGeTINOutEdge* second);
+
+    std::unique_ptr<qn_detail::HullIndex> m_hull;     ///< of a long hull
+    std::unique_ptr<qn_detail::TreeFinger> m_finger;  ///< on TrgTree; null once that has got a range over its contents
 };

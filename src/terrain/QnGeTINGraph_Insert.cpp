@@ -97,30 +97,32 @@ bool QnGeTINGraph::InsertInside(QnGeTINNode* node) {
 
 namespace {
 
-/// Sets edge `i` of a triangle to what lay beyond the same edge of `old` before, and tells the other side.
-void TakeOverEdge(QnGeTINTriangle* triangle, long i, QnGeTINTriangle* near, QnGeTINOutEdge* out, QnGeTINTriangle* old) {
-    triangle->NearTrg[i] = near;
-    triangle->OutEdge[i] = out;
-    if (near != nullptr) {
-        near->ReplaceNearTrg(old, triangle);
-    }
-    if (out != nullptr) {
-        out->Triangle = triangle;
-    }
-}
-
 void SetNodes(QnGeTINTriangle* triangle, QnGeTINNode* a, QnGeTINNode* b, QnGeTINNode* c) {
     triangle->Node[0] = a;
     triangle->Node[1] = b;
     triangle->Node[2] = c;
 }
 
-/// Sets the two edges that meet in the new node, which have triangles beyond.
-void SetInnerEdges(QnGeTINTriangle* triangle, QnGeTINTriangle* beyond0, QnGeTINTriangle* beyond2) {
+/// Sets the two edges that meet in the new node, which have triangles beyond, and edge 1, which was an edge of the old
+/// triangles and keeps what lies there.
+void SetEdges(QnGeTINTriangle* triangle, QnGeTINTriangle* beyond0, QnGeTINTriangle* beyond1, QnGeTINTriangle* beyond2,
+              QnGeTINOutEdge* out1) {
     triangle->NearTrg[0] = beyond0;
+    triangle->NearTrg[1] = beyond1;
     triangle->NearTrg[2] = beyond2;
     triangle->OutEdge[0] = nullptr;
+    triangle->OutEdge[1] = out1;
     triangle->OutEdge[2] = nullptr;
+}
+
+/// Tells what lies beyond edge 1 that the triangle there is no longer `old`.
+void Announce(QnGeTINTriangle* triangle, QnGeTINTriangle* old) {
+    if (triangle->NearTrg[1] != nullptr) {
+        triangle->NearTrg[1]->ReplaceNearTrg(old, triangle);
+    }
+    if (triangle->OutEdge[1] != nullptr) {
+        triangle->OutEdge[1]->Triangle = triangle;
+    }
 }
 
 }  // namespace
@@ -136,15 +138,13 @@ void QnGeTINGraph::SplitTriangle(QnGeTINNode* node, QnGeTINTriangle* triangle) {
     QnGeTINTriangle* const t2 = NewTriangle();
 
     SetNodes(triangle, node, a, b);
-    SetInnerEdges(triangle, t2, t1);
-    triangle->NearTrg[1] = near[0];
-    triangle->OutEdge[1] = out[0];
+    SetEdges(triangle, t2, near[0], t1, out[0]);
     SetNodes(t1, node, b, c);
-    SetInnerEdges(t1, triangle, t2);
-    TakeOverEdge(t1, 1, near[1], out[1], triangle);
+    SetEdges(t1, triangle, near[1], t2, out[1]);
     SetNodes(t2, node, c, a);
-    SetInnerEdges(t2, t1, triangle);
-    TakeOverEdge(t2, 1, near[2], out[2], triangle);
+    SetEdges(t2, t1, near[2], triangle, out[2]);
+    Announce(t1, triangle);
+    Announce(t2, triangle);
 
     NodeList.Append(node);
     TrgList.Append(t1);
@@ -185,19 +185,15 @@ void QnGeTINGraph::SplitEdge(QnGeTINNode* node, QnGeTINTriangle* triangle, long 
     QnGeTINTriangle* const t5 = NewTriangle();
 
     SetNodes(triangle, node, a, b);
-    SetInnerEdges(triangle, t5, t3);
-    triangle->NearTrg[1] = nearAB;
-    triangle->OutEdge[1] = outAB;
+    SetEdges(triangle, t5, nearAB, t3, outAB);
     SetNodes(t3, node, b, c);
-    SetInnerEdges(t3, triangle, other);
-    TakeOverEdge(t3, 1, nearBC, outBC, triangle);
+    SetEdges(t3, triangle, nearBC, other, outBC);
     SetNodes(other, node, c, d);
-    SetInnerEdges(other, t3, t5);
-    other->NearTrg[1] = nearCD;
-    other->OutEdge[1] = outCD;
+    SetEdges(other, t3, nearCD, t5, outCD);
     SetNodes(t5, node, d, a);
-    SetInnerEdges(t5, other, triangle);
-    TakeOverEdge(t5, 1, nearDA, outDA, other);
+    SetEdges(t5, other, nearDA, triangle, outDA);
+    Announce(t3, triangle);
+    Announce(t5, other);
 
     NodeList.Append(node);
     TrgList.Append(t3);

@@ -8,14 +8,29 @@
 // Order      The walk starts at the head of the ring, and the first edge that faces the node or takes it decides. Where
 //            the ring begins is therefore part of the state, and so is where the two new records go: in place of the run.
 // Invariant  After each insertion the ring is closed: the next record's node is the end of the edge before it.
+// Why so     A long hull has an index that passes over edges which cannot decide (detail/HullIndex.h); the walk stays that
+//            over all edges in order.
 // Ownership  As Insert: the node is the graph's on true.
 #include "terrain/QnGeTINGraph.h"
-#include "values/QnGeAnalytic.h"
+#include "terrain/detail/HullIndex.h"
 #include "values/QnGeBaseLine2d.h"
+#include "values/detail/PathType.h"
 
 namespace {
 
 using Ring = QnPDList<QnGeTINOutEdge>;
+
+/// Hulls of more edges are indexed.
+constexpr long LONG_HULL = 128;
+
+/// Puts the cursor of a ring on an element whose index is known, so that operations by indexes near it are short.
+class RingCursor : public Ring {
+public:
+    static void PutOn(Ring& ring, QnGeTINOutEdge* const* entry, long index) {
+        ring.*(&RingCursor::m_pCurrent) = NodeOf(entry);
+        ring.*(&RingCursor::m_nCur) = index;
+    }
+};
 
 QnGeTINOutEdge* const* NextInRing(const Ring& ring, QnGeTINOutEdge* const* entry) {
     QnGeTINOutEdge* const* const next = ring.GetNext(entry);
@@ -24,23 +39,46 @@ QnGeTINOutEdge* const* NextInRing(const Ring& ring, QnGeTINOutEdge* const* entry
 
 /// How the edge from this record to the next turns towards the node; a right turn faces it.
 int TurnTo(const Ring& ring, QnGeTINOutEdge* const* entry, const QnGeTINNode& node) {
-    return GetPathType(*(*entry)->Node, *(*NextInRing(ring, entry))->Node, node);
+    return qn_detail::PathTypeOf(*(*entry)->Node, *(*NextInRing(ring, entry))->Node, node);
 }
 
 }  // namespace
 
+/// The index of the hull if it is long. One that a caller has put out of step by changing the list is made anew.
+qn_detail::HullIndex* QnGeTINGraph::GetHullIndex() {
+    const long length = OutEdgeList.GetLength();
+    if (length <= LONG_HULL) {
+        m_hull.reset();
+    } else if (m_hull == nullptr || m_hull->GetLength() != length) {
+        m_hull = std::make_unique<qn_detail::HullIndex>(OutEdgeList);
+    }
+    return m_hull.get();
+}
+
 bool QnGeTINGraph::InsertOutside(QnGeTINNode* node) {
+    qn_detail::HullIndex* const hull = GetHullIndex();
+    QnGeTINOutEdge* const* entry = OutEdgeList.GetFirst();
     long i = 0;
-    for (QnGeTINOutEdge* const* entry = OutEdgeList.GetFirst(); entry != nullptr; entry = OutEdgeList.GetNext(entry)) {
-        const int turn = TurnTo(OutEdgeList, entry, *node);
-        if (turn == PATH_RIGHT) {
-            JoinHullEdges(node, i);
-            return true;
+    long count = OutEdgeList.GetLength();
+    while (hull == nullptr || (count = hull->FindNext(*node, i, entry)) > 0) {
+        for (; count > 0; --count) {
+            const int turn = TurnTo(OutEdgeList, entry, *node);
+            if (turn != PATH_LEFT) {
+                RingCursor::PutOn(OutEdgeList, entry, i);
+            }
+            if (turn == PATH_RIGHT) {
+                JoinHullEdges(node, i);
+                return true;
+            }
+            if (turn == PATH_STRAIGHT && JoinHullLine(node, i)) {
+                return true;
+            }
+            entry = OutEdgeList.GetNext(entry);
+            ++i;
         }
-        if (turn == PATH_STRAIGHT && JoinHullLine(node, i)) {
-            return true;
+        if (hull == nullptr) {
+            break;
         }
-        ++i;
     }
     return false;
 }
@@ -59,6 +97,7 @@ long QnGeTINGraph::FindAndRotateEdge(QnGeTINNode* node, long& index) {
     if (index != 0) {
         return count;
     }
+    qn_detail::HullIndex* const hull = GetHullIndex();
     // Backwards from the end, but never over the edges counted already.
     long first = length;
     entry = OutEdgeList.GetLast();
@@ -69,6 +108,9 @@ long QnGeTINGraph::FindAndRotateEdge(QnGeTINNode* node, long& index) {
     }
     if (first < length) {
         OutEdgeList.Rotate(first, 0);
+        if (hull != nullptr) {
+            hull->Rotate(first);
+        }
         index = 0;
     }
     return count;
@@ -104,8 +146,19 @@ void QnGeTINGraph::JoinHullEdges(QnGeTINNode* node, long index) {
         OutEdgeList.Del(index);
     }
     NodeList.Append(node);
-    OutEdgeList.Insert(index, lastNew->CreateOutEdge(0));
-    OutEdgeList.Insert(index, firstNew->CreateOutEdge(2));
+    QnGeTINOutEdge* const second = lastNew->CreateOutEdge(0);
+    QnGeTINOutEdge* const first = firstNew->CreateOutEdge(2);
+    ReplaceHullEdges(index, count, first, second);
+}
+
+/// Puts two records in the place of the `count` from `index` on that are out of the ring already.
+void QnGeTINGraph::ReplaceHullEdges(long index, long count, QnGeTINOutEdge* first, QnGeTINOutEdge* second) {
+    OutEdgeList.Insert(index, second);
+    OutEdgeList.Insert(index, first);
+    if (m_hull != nullptr) {
+        QnGeTINOutEdge* const* const entry = OutEdgeList.GetTo(index);
+        m_hull->Replace(index, count, entry, OutEdgeList.GetNext(entry));
+    }
 }
 
 /// Takes a node on the line of hull edge `index`, if it lies on the edge or at one of its ends.
@@ -166,8 +219,9 @@ void QnGeTINGraph::SplitHullEdge(QnGeTINNode* node, long index, QnGeTINNode* fro
         outCA->Triangle = added;
     }
 
-    OutEdgeList.Insert(index, triangle->CreateOutEdge(0));
-    OutEdgeList.Insert(index, added->CreateOutEdge(2));
+    QnGeTINOutEdge* const second = triangle->CreateOutEdge(0);
+    QnGeTINOutEdge* const first = added->CreateOutEdge(2);
+    ReplaceHullEdges(index, 1, first, second);
     NodeList.Append(node);
     TrgList.Append(added);
     PushLOP(added);

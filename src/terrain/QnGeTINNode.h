@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
+
+#include "containers/impl/Pieces.h"
 #include "frame/QnGeApi.h"
 #include "values/QnGePoint.h"
 
@@ -23,6 +26,9 @@ public:
     virtual ~QnGeTINNode();
 
     QnGeTINNode& operator=(const QnGeTINNode& other) = default;
+
+    static void* operator new(std::size_t bytes) { return qn_detail::TakePiece(bytes); }
+    static void operator delete(void* memory, std::size_t bytes) { qn_detail::GivePiece(memory, bytes); }
 
     double GetValue() const { return z; }
     void SetValue(double value) { z = value; }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
+
+#include "containers/impl/Pieces.h"
 #include "frame/QnGeApi.h"
 
 class QnGeTINNode;
@@ -17,4 +20,7 @@ public:
 
     QnGeTINOutEdge() = default;
     QnGeTINOutEdge(QnGeTINNode* node, QnGeTINTriangle* triangle) : Node(node), Triangle(triangle) {}
+
+    static void* operator new(std::size_t bytes) { return qn_detail::TakePiece(bytes); }
+    static void operator delete(void* memory, std::size_t bytes) { qn_detail::GivePiece(memory, bytes); }
 };

@@ -100,7 +100,9 @@ bool QnGeTINTriangle::IsInsideCircle(const QnGePoint& p) {
     if (std::fabs(p.y - CenterY) - Radius >= -g_distZero) {
         return false;
     }
-    return IsLess(GetDistance2d(p, QnGePoint(CenterX, CenterY)) - Radius, g_distZero);
+    const double dx = CenterX - p.x;
+    const double dy = CenterY - p.y;
+    return IsLess(std::sqrt(dx * dx + dy * dy) - Radius, g_distZero);
 }
 
 void QnGeTINTriangle::UpdateExtend() {
@@ -157,6 +159,9 @@ void QnGeTINTriangle::SwapDiagonalLine() {
     other->OutEdge[1] = outDC;
     other->NearTrg[2] = nearCA;
     other->OutEdge[2] = outCA;
+    if (outDC != nullptr) {
+        outDC->Triangle = other;
+    }
     if (outCA != nullptr) {
         outCA->Triangle = other;
     }

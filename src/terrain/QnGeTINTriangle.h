@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "base/QnBitData.h"
+#include "containers/impl/Pieces.h"
 #include "frame/QnGeApi.h"
 #include "values/QnGeExtent2d.h"
 #include "values/QnGePoint.h"
@@ -42,6 +44,9 @@ public:
 
     QnGeTINTriangle() = default;
     ~QnGeTINTriangle() override;
+
+    static void* operator new(std::size_t bytes) { return qn_detail::TakePiece(bytes); }
+    static void operator delete(void* memory, std::size_t bytes) { qn_detail::GivePiece(memory, bytes); }
 
     /// Restores the empty-circle condition across edge 1, one step: flips the edge if the triangle beyond has Node[0]
     /// within its circle, which leaves that one to be looked at first, or else takes this triangle off the stack.

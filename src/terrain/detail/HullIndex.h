@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include "containers/QnPDList.h"
+#include "containers/detail/PodArray.h"
+#include "terrain/QnGeTINNode.h"
+#include "terrain/QnGeTINOutEdge.h"
+
+namespace qn_detail {
+
+/// A long hull in blocks, to pass over the edges that neither face a node nor take it without looking at each.
+///
+/// Requires  Being told of every change of the ring.
+/// Ownership  Of its own blocks. List entries, records and nodes are looked at.
+/// See        HullIndex.cpp for how it works
+class HullIndex {
+public:
+    using Ring = QnPDList<QnGeTINOutEdge>;
+    using Entry = QnGeTINOutEdge* const*;  ///< an element of the ring, where it stands in the list
+
+    explicit HullIndex(const Ring& ring);
+    ~HullIndex();
+    HullIndex(const HullIndex&) = delete;
+    HullIndex& operator=(const HullIndex&) = delete;
+
+    long GetLength() const { return m_length; }
+
+    /// Moves from edge `index` on to the first that must be looked at, and answers its entry and how many from there on
+    /// are to be looked at too; 0 if none is left up to the end of the ring. The edges passed over make no right turn
+    /// towards the node, and it lies neither on them nor at their ends.
+    long FindNext(const QnGePoint& node, long& index, Entry& entry);
+
+    /// The `count` entries from `index` on are no more; `first` and `second` stand in their place.
+    void Replace(long index, long count, Entry first, Entry second);
+
+    /// The ring begins with what was edge `index`.
+    void Rotate(long index);
+
+private:
+    /// What can be said of some consecutive edges.
+    struct Bounds {
+        double xMin, xMax, yMin, yMax;      ///< of the nodes
+        double uxMin, uxMax, uyMin, uyMax;  ///< of the gradients
+        double rx, ry;                      ///< the point of reference
+        double most;                        ///< largest v there
+        double shortest;                    ///< length of the shortest edge, as |dx| + |dy|
+
+        void AddNode(const QnGePoint& p);
+        void AddEdge(const QnGePoint& a, const QnGePoint& b);
+        void Add(const Bounds& other);
+        double MostAt(double x, double y) const;
+        bool CanPass(const QnGePoint& p) const;
+    };
+    struct Block;
+    struct Group {
+        Bounds bounds;
+        long count;  ///< of edges
+        bool stale;
+    };
+    struct BlockRef {
+        Block* block;
+        long count;
+    };
+
+    BlockRef& Locate(long index, long& at, long& offset);
+    const Bounds& BoundsOf(long at);
+    const Group& GroupOf(long at);
+    const QnGePoint& EndOf(long at) const;
+    void SplitBlock(long at, long offset);
+    void RemoveBlock(long at);
+    void Remove(long index, long count);
+    void MakeStale(long at);
+
+    PodArray<BlockRef> m_blocks;  ///< in ring order, none empty
+    PodArray<Group> m_groups;     ///< of GROUP blocks each, by their places
+    long m_length = 0;
+};
+
+}  // namespace qn_detail
