@@ -131,14 +131,18 @@ private:
     std::unordered_map<std::int64_t, std::vector<std::size_t>> m_cells;
 };
 
+long double Difference(double a, double b) {
+    return static_cast<long double>(a) - static_cast<long double>(b);
+}
+
 /// Where the insides of two edges cross, in extended precision.
 bool Cross(const Edge& a, const Edge& b, double& x, double& y) {
-    const long double ax = static_cast<long double>(a.to.x) - a.from.x;
-    const long double ay = static_cast<long double>(a.to.y) - a.from.y;
-    const long double bx = static_cast<long double>(b.to.x) - b.from.x;
-    const long double by = static_cast<long double>(b.to.y) - b.from.y;
-    const long double gx = static_cast<long double>(b.from.x) - a.from.x;
-    const long double gy = static_cast<long double>(b.from.y) - a.from.y;
+    const long double ax = Difference(a.to.x, a.from.x);
+    const long double ay = Difference(a.to.y, a.from.y);
+    const long double bx = Difference(b.to.x, b.from.x);
+    const long double by = Difference(b.to.y, b.from.y);
+    const long double gx = Difference(b.from.x, a.from.x);
+    const long double gy = Difference(b.from.y, a.from.y);
     const long double det = ax * by - ay * bx;
     if (det == 0.0L) {
         return false;
@@ -148,8 +152,8 @@ bool Cross(const Edge& a, const Edge& b, double& x, double& y) {
     if (!(t >= 0.0L && t <= 1.0L && s >= 0.0L && s <= 1.0L)) {
         return false;
     }
-    x = static_cast<double>(a.from.x + t * ax);
-    y = static_cast<double>(a.from.y + t * ay);
+    x = a.from.x + static_cast<double>(t * ax);
+    y = a.from.y + static_cast<double>(t * ay);
     return true;
 }
 
