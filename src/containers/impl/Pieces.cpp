@@ -42,7 +42,7 @@ void GivePiece(void* piece, std::size_t bytes) noexcept {
 namespace {
 
 constexpr std::size_t GRAIN = 8;
-constexpr std::size_t MOST_BYTES = 768;  ///< larger objects come from the heap
+constexpr std::size_t MOST_BYTES = 1024;  ///< larger objects come from the heap
 constexpr std::size_t FIRST_SLAB = 1024;
 constexpr std::size_t LARGEST_SLAB = std::size_t{1} << 18;
 constexpr std::size_t SLAB_ALIGNMENT = 16;

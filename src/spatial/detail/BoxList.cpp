@@ -1,34 +1,34 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "spatial/detail/BoxList.h"
 
+#include "spatial/detail/BoxOrder.h"
+#include "spatial/detail/BoxRow.h"
+
 namespace qn_detail {
 
 // ---- for the tree ----------------------------------------------------------------------------------
 
-BoxNode* BoxList::Add(Box* box, double centreX, double centreY) {
+void BoxList::Add(Box* box, const Box& range) {
     auto* const node = new BoxNode(box);
     LinkBefore(node, m_pHead);
     m_pTail = node;
     ++m_nLength;
     m_pCurrent = node;
     m_nCur = m_nLength - 1;
-    if (m_order != nullptr && m_order->HasRoom()) {
-        m_order->Add(node);
-    } else {
-        m_order.reset();
-        static_cast<void>(GetOrder(centreX, centreY));
+    if (m_index == nullptr || !m_index->Add(node)) {
+        m_index.reset();
+        static_cast<void>(GetIndex(range));
     }
-    return node;
 }
 
 QnGeExtent2d* BoxList::Take(const Box* box) {
-    BoxNode* node = m_order != nullptr ? m_order->Take(box) : nullptr;
+    BoxNode* node = m_index != nullptr ? m_index->Take(box) : nullptr;
     if (node == nullptr) {
         node = FindNode(box);
         if (node == nullptr) {
             return nullptr;
         }
-        MakeStale();  // the order, if there is one, holds the node at other coordinates
+        MakeStale();  // the index, if there is one, holds the node at other coordinates
     }
     return Remove(node);
 }
@@ -48,7 +48,7 @@ BoxNode* BoxList::FindNode(const Box* box) const {
     return nullptr;
 }
 
-/// Takes a node out of the list that is in the order no more.
+/// Takes a node out of the list that is in the index no more.
 QnGeExtent2d* BoxList::Remove(BoxNode* node) {
     Box* const box = node->data;
     Unlink(node);
@@ -58,26 +58,30 @@ QnGeExtent2d* BoxList::Remove(BoxNode* node) {
     GoOut();
     DropHint();
     if (m_nLength <= VERY_SHORT) {
-        m_order.reset();
+        m_index.reset();
     }
     return box;
 }
 
-/// The order if the list is long enough for one.
-const BoxOrder* BoxList::GetOrder(double centreX, double centreY) const {
-    if (m_order == nullptr && m_nLength > SHORT) {
-        m_order = std::make_unique<BoxOrder>(centreX, centreY);
+/// The index if the list is long enough for one.
+const BoxIndex* BoxList::GetIndex(const Box& range) const {
+    if (m_index == nullptr && m_nLength > SHORT) {
+        if (m_nLength > BoxRow::MOST) {
+            m_index = std::make_unique<BoxOrder>(range);
+        } else {
+            m_index = std::make_unique<BoxRow>(range);
+        }
         for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
-            m_order->Add(node);
+            m_index->Add(node);
         }
     }
-    return m_order.get();
+    return m_index.get();
 }
 
-void BoxList::Find(double x, double y, double centreX, double centreY, BoxHits& hits) const {
-    const BoxOrder* const order = GetOrder(centreX, centreY);
-    if (order != nullptr) {
-        order->Find(x, y, hits);
+void BoxList::Find(double x, double y, const Box& range, BoxHits& hits) const {
+    const BoxIndex* const index = GetIndex(range);
+    if (index != nullptr) {
+        index->Find(x, y, hits);
         return;
     }
     for (const BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
@@ -87,10 +91,10 @@ void BoxList::Find(double x, double y, double centreX, double centreY, BoxHits& 
     }
 }
 
-void BoxList::Find(const Box& box, double centreX, double centreY, BoxHits& hits) const {
-    const BoxOrder* const order = GetOrder(centreX, centreY);
-    if (order != nullptr && !order->IsAllIn(box)) {
-        order->Find(box, hits);
+void BoxList::Find(const Box& box, const Box& range, BoxHits& hits) const {
+    const BoxIndex* const index = GetIndex(range);
+    if (index != nullptr) {
+        index->Find(box, hits);
         return;
     }
     for (const BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {

@@ -5,18 +5,18 @@
 #include <typeinfo>
 
 #include "containers/QnList.h"
-#include "spatial/detail/BoxOrder.h"
+#include "spatial/detail/BoxIndex.h"
 #include "values/QnGeExtent2d.h"
 
 namespace qn_detail {
 
-/// The list that a quad tree makes for a node's boxes: a plain list to everyone else, which keeps a BoxOrder beside its
-/// elements once there are many.
+/// The list that a quad tree makes for a node's boxes: a plain list to everyone else, which keeps a BoxIndex beside its
+/// elements once there are some.
 ///
-/// Whoever changes the list by its public operations makes the order stale, and the next search builds it anew. Boxes
+/// Whoever changes the list by its public operations makes the index stale, and the next search builds it anew. Boxes
 /// that the tree takes out are found by it; what it does not find is searched for in the list.
 ///
-/// Invariant  An order that is not stale holds the nodes of the list, and their arrivals are in the order of the list.
+/// Invariant  An index holds the nodes of the list in their order.
 class BoxList final : public QnList<QnGeExtent2d*> {
     using Base = QnList<QnGeExtent2d*>;
     using Box = QnGeExtent2d;
@@ -33,15 +33,15 @@ public:
         return IsBoxList(list) ? static_cast<const BoxList*>(list) : nullptr;
     }
 
-    // ---- for the tree: `centre` is that of the node ----------------------------------------------
+    // ---- for the tree: `range` is that of the node -----------------------------------------------
 
-    /// Appends a box and answers its node.
-    BoxNode* Add(Box* box, double centreX, double centreY);
+    /// Appends a box.
+    void Add(Box* box, const Box& range);
     /// Takes the element out that is the same as `box` and answers it; null if there is none.
     Box* Take(const Box* box);
     /// The boxes that hold a point, or meet a box, in order.
-    void Find(double x, double y, double centreX, double centreY, BoxHits& hits) const;
-    void Find(const Box& box, double centreX, double centreY, BoxHits& hits) const;
+    void Find(double x, double y, const Box& range, BoxHits& hits) const;
+    void Find(const Box& box, const Box& range, BoxHits& hits) const;
 
     static void* operator new(std::size_t bytes) { return TakePiece(bytes); }
     static void operator delete(void* list, std::size_t bytes) { GivePiece(list, bytes); }
@@ -69,16 +69,16 @@ public:
     using Base::operator[];
 
 private:
-    static constexpr long SHORT = 32;       ///< the longest list without an order
-    static constexpr long VERY_SHORT = 16;  ///< the longest that gives up the one it has
+    static constexpr long SHORT = 8;       ///< the longest list without an index
+    static constexpr long VERY_SHORT = 5;  ///< the longest that gives up the one it has
 
     static bool IsBoxList(const Base* list) { return &typeid(*list) == &typeid(BoxList); }
-    void MakeStale() { m_order.reset(); }
-    const BoxOrder* GetOrder(double centreX, double centreY) const;
+    void MakeStale() { m_index.reset(); }
+    const BoxIndex* GetIndex(const Box& range) const;
     BoxNode* FindNode(const Box* box) const;
     Box* Remove(BoxNode* node);
 
-    mutable std::unique_ptr<BoxOrder> m_order;
+    mutable std::unique_ptr<BoxIndex> m_index;
 };
 
 }  // namespace qn_detail

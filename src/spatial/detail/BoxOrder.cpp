@@ -7,7 +7,7 @@
 // where their middles lie along their arm, and each block knows the boxes of what is below it:
 //
 //      key    arm | middle along the arm | arrival        the order of the blocks
-//      box    float box relative to the node's centre     what a search looks at, eight at a time
+//      box    on the grid over the node's range           what a search looks at, eight at a time
 //      item   list node, or block below                   in no order within a block
 //
 // Phases     Add     down by the key to the last block that begins at or before it, widening the boxes on the way;
@@ -19,66 +19,48 @@
 // Invariant  All keys below a block are at least its key in the block above, but below the next larger key there. The
 //            box of a block is the hull of those below.
 // Why so     Arrivals number the entries in the order of the list, since lists grow at the end only: sorting what is
-//            found by them restores it. An arm is chosen, and a middle taken, from the float box alone: no tolerance
-//            takes part, which may differ when the box is taken out.
-// Tolerance  Rounding to float keeps the order of numbers. So a search that widens its box by twice the tolerance, and
-//            by the rounding of doubles, before rounding it too, misses nothing. Who searches tests what is found.
-// Cost       Logarithmic; about 50 bytes a box.
+//            found by them restores it. An arm is chosen, and a middle taken, from the box on the grid alone: no
+//            tolerance takes part, which may differ when the box is taken out.
+// Tolerance  The grid keeps the order of coordinates. So a search that widens its box by twice the tolerance before
+//            putting it on the grid misses nothing; what it comes upon is tested as it stands.
+// Cost       Logarithmic; about 40 bytes a box.
 #include "spatial/detail/BoxOrder.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
+
+#include "values/detail/BoxLanes.h"
 
 namespace qn_detail {
 
 namespace {
 
-constexpr int SPACE = 2 * BoxLanes::COUNT;  ///< entries of a block
+constexpr int SPACE = 2 * GridLanes::COUNT;  ///< entries of a block
 constexpr int HALF = SPACE / 2;
 constexpr int FEW = SPACE / 4;               ///< a block with no more joins another
 constexpr int FEW_TOGETHER = 3 * SPACE / 4;  ///< if the two have no more together
-constexpr double FARTHEST = 3e38;            ///< coordinates beyond are taken for this
-constexpr double ROUNDING = 1e-15;           ///< of a difference of doubles, in parts of their sizes
 
-float ToFloat(double v) {
-    return static_cast<float>(v > FARTHEST ? FARTHEST : (v < -FARTHEST ? -FARTHEST : v));
-}
-
-/// A number that orders as the float does.
-std::uint32_t OrderOf(float v) {
-    if (std::isnan(v)) {
-        return 0;
-    }
-    std::uint32_t bits = 0;
-    std::memcpy(&bits, &v, sizeof bits);
-    constexpr std::uint32_t SIGN = 0x80000000U;
-    return (bits & SIGN) != 0 ? ~bits : bits | SIGN;
-}
-
-/// How far zero lies from a range.
-float GapToZero(float low, float high) {
-    return low > 0.0F ? low : (high < 0.0F ? -high : 0.0F);
+/// How far the middle of the grid lies from a range.
+int GapToMiddle(int low, int high) {
+    return low > 0 ? low : (high < 0 ? -high : 0);
 }
 
 /// The key of an entry before its arrival is added.
-BoxOrder::Key KeyOf(const FloatBox& box) {
-    const bool isOnVertical = GapToZero(box.x0, box.x1) <= GapToZero(box.y0, box.y1);
-    const float middle = isOnVertical ? box.y0 + box.y1 : box.x0 + box.x1;
-    const BoxOrder::Key along = OrderOf(middle);
-    const BoxOrder::Key arm = isOnVertical ? 0 : BoxOrder::Key{1} << 32;
+BoxOrder::Key KeyOf(const GridBox& box) {
+    constexpr int LOWEST_SUM = -2 * (GridBox::FARTHEST + 1);
+    constexpr int SUM_BITS = 17;
+    const bool isOnVertical = GapToMiddle(box.x0, box.x1) <= GapToMiddle(box.y0, box.y1);
+    const int sum = isOnVertical ? box.y0 + box.y1 : box.x0 + box.x1;
+    const auto along = static_cast<BoxOrder::Key>(sum - LOWEST_SUM);
+    const BoxOrder::Key arm = isOnVertical ? 0 : BoxOrder::Key{1} << SUM_BITS;
     return (arm | along) << BoxOrder::ARRIVAL_BITS;
-}
-
-bool IsOnRim(const FloatBox& inner, const FloatBox& hull) {
-    return !(inner.x0 > hull.x0 && inner.y0 > hull.y0 && inner.x1 < hull.x1 && inner.y1 < hull.y1);
 }
 
 }  // namespace
 
 /// Up to SPACE entries: list nodes at height 0, else blocks of the height below.
 struct BoxOrder::Block {
-    BoxLanes lanes[2];
+    GridLanes lanes[2];
     Key keys[SPACE];
     void* items[SPACE];
     int count = 0;
@@ -89,12 +71,12 @@ struct BoxOrder::Block {
     static void* operator new(std::size_t bytes) { return TakePiece(bytes); }
     static void operator delete(void* block, std::size_t bytes) { GivePiece(block, bytes); }
 
-    FloatBox GetBox(int i) const { return lanes[i / BoxLanes::COUNT].GetBox(i % BoxLanes::COUNT); }
-    void SetBox(int i, const FloatBox& box) { lanes[i / BoxLanes::COUNT].SetBox(i % BoxLanes::COUNT, box); }
+    GridBox GetBox(int i) const { return lanes[i / GridLanes::COUNT].GetBox(i % GridLanes::COUNT); }
+    void SetBox(int i, const GridBox& box) { lanes[i / GridLanes::COUNT].SetBox(i % GridLanes::COUNT, box); }
     Block* GetBlock(int i) const { return static_cast<Block*>(items[i]); }
     BoxNode* GetNode(int i) const { return static_cast<BoxNode*>(items[i]); }
 
-    void Append(Key key, const FloatBox& box, void* item) {
+    void Append(Key key, const GridBox& box, void* item) {
         SetBox(count, box);
         keys[count] = key;
         items[count] = item;
@@ -109,8 +91,8 @@ struct BoxOrder::Block {
         items[i] = items[count];
     }
 
-    FloatBox GetHull() const {
-        FloatBox hull = GetBox(0);
+    GridBox GetHull() const {
+        GridBox hull = GetBox(0);
         for (int i = 1; i < count; ++i) {
             hull = hull.With(GetBox(i));
         }
@@ -149,19 +131,19 @@ struct BoxOrder::Block {
         return next;
     }
 
-    unsigned GetMeeting(const FloatBox& box) const {
-        const unsigned bits = lanes[0].GetMeeting(box) | lanes[1].GetMeeting(box) << BoxLanes::COUNT;
+    unsigned GetMeeting(const GridBox& box) const {
+        const unsigned bits = lanes[0].GetMeeting(box) | lanes[1].GetMeeting(box) << GridLanes::COUNT;
         return bits & ((1U << count) - 1U);
     }
 
     Block* Split();
-    Block* Enter(Key key, const FloatBox& box, void* item);
-    Block* Add(Key key, const FloatBox& box, void* item);
+    Block* Enter(Key key, const GridBox& box, void* item);
+    Block* Add(Key key, const GridBox& box, void* item);
     void JoinIfSmall(int i);
-    void TidyAfterTake(int i, const FloatBox& taken);
-    BoxNode* Take(Key first, const FloatBox& frame, const QnGeExtent2d* box);
+    void TidyAfterTake(int i, const GridBox& taken);
+    BoxNode* Take(Key first, const GridBox& frame, const QnGeExtent2d* box);
     template <class IsHit>
-    void Find(const FloatBox& box, IsHit isHit, BoxHits& hits) const;
+    void Find(const GridBox& box, IsHit isHit, BoxHits& hits) const;
     static void DeleteAll(Block* block);
 };
 
@@ -183,7 +165,7 @@ BoxOrder::Block* BoxOrder::Block::Split() {
 }
 
 /// Makes an entry of this block; answers the new block beside it if that took one.
-BoxOrder::Block* BoxOrder::Block::Enter(Key key, const FloatBox& box, void* item) {
+BoxOrder::Block* BoxOrder::Block::Enter(Key key, const GridBox& box, void* item) {
     if (count < SPACE) {
         Append(key, box, item);
         return nullptr;
@@ -195,7 +177,7 @@ BoxOrder::Block* BoxOrder::Block::Enter(Key key, const FloatBox& box, void* item
 }
 
 /// Enters an item at height 0 below; answers as Enter does.
-BoxOrder::Block* BoxOrder::Block::Add(Key key, const FloatBox& box, void* item) {
+BoxOrder::Block* BoxOrder::Block::Add(Key key, const GridBox& box, void* item) {
     if (height == 0) {
         return Enter(key, box, item);
     }
@@ -238,7 +220,7 @@ void BoxOrder::Block::JoinIfSmall(int i) {
 }
 
 /// Takes the first entry of a box at height 0; `first` is the lowest key that it can have.
-BoxNode* BoxOrder::Block::Take(Key first, const FloatBox& frame, const QnGeExtent2d* box) {
+BoxNode* BoxOrder::Block::Take(Key first, const GridBox& frame, const QnGeExtent2d* box) {
     const Key last = first | MOST_ARRIVALS;
     if (height == 0) {
         int found = -1;
@@ -266,14 +248,14 @@ BoxNode* BoxOrder::Block::Take(Key first, const FloatBox& frame, const QnGeExten
 }
 
 /// Brings entry `i` up to date, from below which a box was taken.
-void BoxOrder::Block::TidyAfterTake(int i, const FloatBox& taken) {
+void BoxOrder::Block::TidyAfterTake(int i, const GridBox& taken) {
     Block* const below = GetBlock(i);
     if (below->count == 0) {
         delete below;
         Remove(i);
         return;
     }
-    if (IsOnRim(taken, GetBox(i))) {
+    if (!GetBox(i).HoldsInside(taken)) {
         SetBox(i, below->GetHull());
     }
     JoinIfSmall(i);
@@ -291,7 +273,7 @@ void BoxOrder::Block::DeleteAll(Block* block) {
 // ---- finding ---------------------------------------------------------------------------------------
 
 template <class IsHit>
-void BoxOrder::Block::Find(const FloatBox& box, IsHit isHit, BoxHits& hits) const {
+void BoxOrder::Block::Find(const GridBox& box, IsHit isHit, BoxHits& hits) const {
     unsigned meeting = GetMeeting(box);
     while (meeting != 0) {
         const int i = TakeLowestLane(meeting);
@@ -305,36 +287,17 @@ void BoxOrder::Block::Find(const FloatBox& box, IsHit isHit, BoxHits& hits) cons
 
 // ---- the order -------------------------------------------------------------------------------------
 
-BoxOrder::BoxOrder(double centreX, double centreY)
-    : m_centreX(std::isfinite(centreX) ? centreX : 0.0),
-      m_centreY(std::isfinite(centreY) ? centreY : 0.0),
-      m_root(new Block(0)) {}
+BoxOrder::BoxOrder(const QnGeExtent2d& range) : BoxIndex(range), m_root(new Block(0)) {}
 
 BoxOrder::~BoxOrder() {
     Block::DeleteAll(m_root);
 }
 
-/// The box relative to the centre. One that is no box meets nothing, and neither does its stand-in.
-FloatBox BoxOrder::FrameOf(const QnGeExtent2d& box) const {
-    const FloatBox frame = {ToFloat(box.x.min - m_centreX), ToFloat(box.y.min - m_centreY),
-                            ToFloat(box.x.max - m_centreX), ToFloat(box.y.max - m_centreY)};
-    const bool isBox = !std::isnan(frame.x0) && !std::isnan(frame.y0) && !std::isnan(frame.x1) && !std::isnan(frame.y1);
-    return isBox ? frame : FloatBox::Empty();
-}
-
-/// The box with which to search: no smaller than what the tests of extents let through.
-FloatBox BoxOrder::SearchBox(const QnGeExtent2d& box) const {
-    const auto margin = [](double v, double centre) {
-        return 2.0 * g_distZero + ROUNDING * (std::fabs(v) + std::fabs(centre));
-    };
-    return {ToFloat(box.x.min - m_centreX - margin(box.x.min, m_centreX)),
-            ToFloat(box.y.min - m_centreY - margin(box.y.min, m_centreY)),
-            ToFloat(box.x.max - m_centreX + margin(box.x.max, m_centreX)),
-            ToFloat(box.y.max - m_centreY + margin(box.y.max, m_centreY))};
-}
-
-void BoxOrder::Add(BoxNode* node) {
-    const FloatBox box = FrameOf(*node->data);
+bool BoxOrder::Add(BoxNode* node) {
+    if (m_arrivals == MOST_ARRIVALS) {
+        return false;
+    }
+    const GridBox box = m_grid.BoxOf(*node->data);
     Block* const upper = m_root->Add(KeyOf(box) | m_arrivals, box, node);
     if (upper != nullptr) {
         auto* const root = new Block(m_root->height + 1);
@@ -343,40 +306,28 @@ void BoxOrder::Add(BoxNode* node) {
         m_root = root;
     }
     ++m_arrivals;
-    ++m_length;
+    return true;
 }
 
 BoxNode* BoxOrder::Take(const QnGeExtent2d* box) {
-    const FloatBox frame = FrameOf(*box);
-    BoxNode* const node = m_root->Take(KeyOf(frame), frame, box);
-    if (node == nullptr) {
-        return nullptr;
-    }
-    if (m_root->height > 0 && m_root->count == 1) {
+    const GridBox gridBox = m_grid.BoxOf(*box);
+    BoxNode* const node = m_root->Take(KeyOf(gridBox), gridBox, box);
+    if (node != nullptr && m_root->height > 0 && m_root->count == 1) {
         Block* const lone = m_root->GetBlock(0);
         delete m_root;
         m_root = lone;
     }
-    --m_length;
     return node;
 }
 
 void BoxOrder::Find(double x, double y, BoxHits& hits) const {
-    m_root->Find(
-        SearchBox(QnGeExtent2d(x, x, y, y)), [x, y](const QnGeExtent2d& box) { return box.IsInclude(x, y); }, hits);
+    m_root->Find(m_grid.SearchBoxOf(QnGeExtent2d(x, x, y, y)), HoldsPoint{x, y}, hits);
     hits.SortByArrival();
 }
 
-void BoxOrder::Find(const QnGeExtent2d& searched, BoxHits& hits) const {
-    m_root->Find(
-        SearchBox(searched), [&searched](const QnGeExtent2d& box) { return box.IsInsersectWith(searched); }, hits);
+void BoxOrder::Find(const QnGeExtent2d& box, BoxHits& hits) const {
+    m_root->Find(m_grid.SearchBoxOf(box), MeetsBox{box}, hits);
     hits.SortByArrival();
-}
-
-bool BoxOrder::IsAllIn(const QnGeExtent2d& box) const {
-    const FloatBox search = SearchBox(box);
-    const FloatBox hull = m_root->GetHull();
-    return search.x0 <= hull.x0 && search.y0 <= hull.y0 && search.x1 >= hull.x1 && search.y1 >= hull.y1;
 }
 
 }  // namespace qn_detail

@@ -21,7 +21,7 @@ struct OrderedBoxLists {
         }
         BoxList* const list = BoxList::From(node.ExtentList);
         if (list != nullptr) {
-            list->Add(box, node.CenterX, node.CenterY);
+            list->Add(box, node);
         } else {
             Plain::Append(node, box);
         }
@@ -39,7 +39,7 @@ struct OrderedBoxLists {
             return;
         }
         BoxHits hits;
-        list->Find(at.x, at.y, node.CenterX, node.CenterY, hits);
+        list->Find(at.x, at.y, node, hits);
         AppendHits(hits, result);
     }
 
@@ -47,7 +47,7 @@ struct OrderedBoxLists {
     static void FindAtPoint(const Tree& node, const QnGePoint& at, BoxHits& hits) {
         const BoxList* const list = GetList(node);
         if (list != nullptr) {
-            list->Find(at.x, at.y, node.CenterX, node.CenterY, hits);
+            list->Find(at.x, at.y, node, hits);
             return;
         }
         const QnList<Box*>& foreign = *node.ExtentList;
@@ -65,7 +65,7 @@ struct OrderedBoxLists {
             return;
         }
         BoxHits hits;
-        list->Find(box, node.CenterX, node.CenterY, hits);
+        list->Find(box, node, hits);
         AppendHits(hits, result);
     }
 
