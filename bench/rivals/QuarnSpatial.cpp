@@ -91,7 +91,7 @@ public:
     long FindPoints() override {
         long found = 0;
         for (const QnGePoint& point : m_task->points) {
-            m_found.SetLength(0);
+            m_found.Reset();
             m_tree->HitTest(point.x, point.y, m_found);
             found += m_found.GetLength();
         }
@@ -101,7 +101,7 @@ public:
     long FindWindows() override {
         long found = 0;
         for (const QnGeExtent2d& window : m_task->windows) {
-            m_found.SetLength(0);
+            m_found.Reset();
             m_tree->HitTest(window, m_found);
             found += m_found.GetLength();
         }
