@@ -37,8 +37,10 @@ public:
 
 /// What a structure check of a network leaves out, for input of which the answer is known to be coarse.
 struct TinRules {
+    bool links = true;  ///< false leaves out everything
     bool emptyCircles = true;
     bool orientation = true;
+    bool treeCells = true;  ///< false for a tree without a range, which keeps all in lists
 };
 
 namespace tin_checks {
@@ -184,6 +186,9 @@ inline std::string CheckTin(const OpenTin& graph, const TinRules& rules = TinRul
     if (graph.LOPStack.GetDepth() != 0) {
         return At("stack", graph.LOPStack.GetDepth(), " triangles wait");
     }
+    if (!rules.links) {
+        return "";
+    }
     const std::vector<QnGeTINTriangle*> triangles = Elements<QnGeTINTriangle*>(graph.TrgList);
     const std::vector<QnGeExtent2d*> stored = tree_checks::Asked<QnGeExtent2d*>(
         [&](QnDynArrayBase<QnGeExtent2d*>& result) { graph.TrgTree.GetAllExtent(result); });
@@ -232,7 +237,7 @@ inline std::string CheckTin(const OpenTin& graph, const TinRules& rules = TinRul
             return At("tree", "holds a box that is no triangle of the list");
         }
     }
-    return tree_checks::CheckQuadTree(graph.TrgTree);
+    return rules.treeCells ? tree_checks::CheckQuadTree(graph.TrgTree) : "";
 }
 
 // ---- the same as the plain form --------------------------------------------------------------------
