@@ -55,7 +55,7 @@ SvgPicture& SvgPicture::Draw(const QnGeObject& object, SvgRole role) {
         return Dot(*point, role);
     }
     const bool isArea = dynamic_cast<const QnGeRegion2d*>(&object) != nullptr;
-    Item item{isArea ? Kind::Area : Kind::Curve, role, m_arrows, {}, ""};
+    Item item{isArea ? Kind::Area : Kind::Curve, role, m_arrows, {}, "", ""};
     if (AppendPaths(object, item.paths)) {
         CurrentPanel().items.push_back(item);
     }
@@ -73,6 +73,17 @@ SvgPicture& SvgPicture::Draw(const QnGeObjList& objects, SvgRole role) {
 
 SvgPicture& SvgPicture::Dot(const QnGePoint& point, SvgRole role, const std::string& label) {
     AddPoint(Kind::Dot, role, point, label);
+    return *this;
+}
+
+SvgPicture& SvgPicture::Face(const std::vector<QnGePoint>& corners, const std::string& colour,
+                             const std::string& edge) {
+    Path path;
+    path.closed = true;
+    for (const QnGePoint& corner : corners) {
+        path.nodes.push_back({corner.x, corner.y, 0.0});
+    }
+    CurrentPanel().items.push_back({Kind::Face, SvgRole::Plain, false, {path}, colour, edge.empty() ? colour : edge});
     return *this;
 }
 
@@ -105,7 +116,7 @@ SvgPicture::PanelData& SvgPicture::CurrentPanel() {
 void SvgPicture::AddPoint(Kind kind, SvgRole role, const QnGePoint& point, const std::string& text) {
     Path path;
     path.nodes.push_back({point.x, point.y, 0.0});
-    CurrentPanel().items.push_back({kind, role, false, {path}, text});
+    CurrentPanel().items.push_back({kind, role, false, {path}, text, ""});
 }
 
 SvgPicture::Path SvgPicture::MakePath(const QnGeMLine2d& line) {

@@ -53,6 +53,8 @@ public:
     SvgPicture& Draw(const QnGeObject& object, SvgRole role);
     SvgPicture& Draw(const QnGeObjList& objects, SvgRole role);
     SvgPicture& Dot(const QnGePoint& point, SvgRole role, const std::string& label = "");
+    /// A face in a colour of its own, such as `#88aa77`, with an edge in another; no edge colour gives its own.
+    SvgPicture& Face(const std::vector<QnGePoint>& corners, const std::string& colour, const std::string& edge = "");
     SvgPicture& Label(const QnGePoint& centre, const std::string& text);
     /// Whether the curves and outlines drawn from here on show their direction of travel.
     SvgPicture& Arrows(bool on);
@@ -82,14 +84,15 @@ private:
         bool endlessEnd = false;
     };
 
-    enum class Kind { Area, Curve, Dot, Label };
+    enum class Kind { Area, Curve, Dot, Label, Face };
 
     struct Item {
         Kind kind;
         SvgRole role;
         bool arrows;
         std::vector<Path> paths;
-        std::string text;
+        std::string text;  ///< of a face, its colour
+        std::string edge;  ///< colour of a face's edge
     };
 
     struct PanelData {

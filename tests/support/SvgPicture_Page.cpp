@@ -347,6 +347,13 @@ void SvgPage::WriteItem(const Item& item, const View& view) {
     for (const Path& path : item.paths) {
         data += PathData(path, view);
     }
+    if (item.kind == Kind::Face) {
+        if (!data.empty()) {
+            m_out << "<path d=\"" << data << "\" fill=\"" << item.text << "\" stroke=\"" << item.edge
+                  << "\" stroke-width=\"0.5\"/>\n";
+        }
+        return;
+    }
     if (!data.empty()) {
         m_out << "<path d=\"" << data << "\" stroke=\"" << style.stroke << "\" stroke-width=\"" << Number(strokeWidth)
               << "\" ";
