@@ -93,7 +93,11 @@ bool QnDListStack<T>::Push(const T& value) {
     if (this->IsDepthLimited() && depth >= this->m_nMaxDepth) {
         return false;
     }
-    m_list[depth] = value;  // moves the cursor there, and makes the place if there is none
+    if (depth == m_list.GetLength()) {
+        m_list.Append(value);
+    } else {
+        m_list[depth] = value;  // moves the cursor there
+    }
     this->m_nTopLimit = depth + 1;
     return true;
 }
@@ -113,7 +117,7 @@ bool QnDListStack<T>::GetTopData(T& value) const {
     if (this->IsEmpty()) {
         return false;
     }
-    value = m_list.GetAt(m_list.GetCur());
+    value = const_cast<QnDList<T>&>(m_list).GetCurData();
     return true;
 }
 

@@ -14,6 +14,12 @@
 
 #include "terrain/detail/InsertionOrder.h"
 
+namespace {
+
+constexpr long AHEAD = 8;  ///< nodes lie in memory in the given order, so the next are fetched in time
+
+}  // namespace
+
 void QnGeTINGraph::MakeTIN() {
     if (NodeList.IsEmpty()) {
         return;
@@ -37,6 +43,9 @@ void QnGeTINGraph::MakeTIN() {
     QnListQuene<QnGeTINNode*> deferred;
     for (long i = 0; i < count; ++i) {
         QnGeTINNode* const node = order[static_cast<std::size_t>(i)];
+        if (i + AHEAD < count) {
+            __builtin_prefetch(order[static_cast<std::size_t>(i + AHEAD)]);
+        }
         if (!Insert(node)) {
             deferred.EnQuene(node);
         }
