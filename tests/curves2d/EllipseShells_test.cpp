@@ -311,6 +311,83 @@ TEST(QnGeSpline2d, EndsExistWithoutBeingWritten) {
     EXPECT_EQ(pt.x, UNTOUCHED);
 }
 
+// ---- what all three have -----------------------------------------------------------------------------
+
+TEST(EllipseShells, NoEndMoves) {
+    QnGeEllipse2d ellipse = EllipseOf(2.0, 1.0);
+    QnGeEArc2d arc;
+    QnGeSpline2d spline;
+    const std::unique_ptr<QnGeObject> wall = ParseGeo("line 1,0 0,1");
+    const std::unique_ptr<QnGeObject> seg = ParseGeo("seg 5,5 6,6");
+    auto& next = static_cast<QnGeCurve2d&>(*seg);
+    for (const bool atStart : {true, false}) {
+        EXPECT_EQ(ellipse.Extend(*wall, atStart, true), QnGeCurve2d::ETR_FAILED) << "it has no ends";
+        EXPECT_EQ(ellipse.Connect(*wall, atStart, 2), QnGeCurve2d::ETR_NO_INTERSECTION);
+        for (QnGeCurve2d* shell : {static_cast<QnGeCurve2d*>(&arc), static_cast<QnGeCurve2d*>(&spline)}) {
+            EXPECT_EQ(shell->Extend(*wall, atStart, true), QnGeCurve2d::ETR_FAILED) << "it has no extension";
+            EXPECT_EQ(shell->Connect(*wall, atStart, 2), QnGeCurve2d::ETR_FAILED);
+        }
+    }
+    for (QnGeCurve2d* shell :
+         {static_cast<QnGeCurve2d*>(&ellipse), static_cast<QnGeCurve2d*>(&arc), static_cast<QnGeCurve2d*>(&spline)}) {
+        EXPECT_EQ(shell->Trim(*wall, false), QnGeCurve2d::ETR_NO_INTERSECTION);
+        EXPECT_FALSE(shell->ConnectWith(next));
+        EXPECT_FALSE(ConnectCurveSeg(shell, &next, false, true));
+        shell->Compress();
+    }
+    ExpectGeo(*seg, "seg 5,5 6,6", 0.0);
+}
+
+TEST(EllipseShells, NoneIsMetByAnExtendedEnd) {
+    const QnGeEllipse2d ellipse = EllipseOf(2.0, 1.0);
+    const std::unique_ptr<QnGeObject> seg = ParseGeo("seg -9,2 -8,2");
+    auto& curve = static_cast<QnGeCurve2d&>(*seg);
+    EXPECT_EQ(curve.Extend(ellipse, false, true), QnGeCurve2d::ETR_NO_INTERSECTION);
+    EXPECT_EQ(curve.Trim(ellipse, false), QnGeCurve2d::ETR_NO_INTERSECTION);
+    EXPECT_EQ(curve.Connect(ellipse, false, 2), QnGeCurve2d::ETR_NO_INTERSECTION);
+}
+
+TEST(EllipseShells, AsAKnifeAllIsOutside) {
+    for (const bool spline : {false, true}) {
+        const std::unique_ptr<QnGeCurve2d> knife(spline ? static_cast<QnGeCurve2d*>(new QnGeSpline2d())
+                                                        : new QnGeEllipse2d(EllipseOf(2.0, 1.0)));
+        QnGeObjList in;
+        QnGeObjList out;
+        QnGeObjList on;
+        knife->Cut(*ParseGeo("seg -9,2 9,2"), in, out, on);
+        EXPECT_TRUE(in.IsEmpty() && on.IsEmpty());
+        ExpectGeoList(out, "seg -9,2 9,2");
+    }
+}
+
+TEST(EllipseShells, CutByAKnifeAnEllipseGoesWhereTheOriginIs) {
+    const std::unique_ptr<QnGeObject> knife = ParseGeo("line 1,0 0,1");
+    QnGeObjList in;
+    QnGeObjList out;
+    QnGeObjList on;
+    static_cast<QnGeCurve2d&>(*knife).Cut(EllipseOf(2.0, 1.0), in, out, on);
+    ASSERT_EQ(in.GetLength(), 1);
+    EXPECT_EQ(in.GetAt(0)->GetCI(), &QnGeEllipse2d::s_classInfo);
+    static_cast<QnGeCurve2d&>(*knife).Cut(QnGeSpline2d(), in, out, on);
+    EXPECT_EQ(in.GetLength(), 1) << "what has no clone is left out";
+    EXPECT_TRUE(out.IsEmpty() && on.IsEmpty());
+}
+
+TEST(EllipseShells, TheTwoWithDefaultEndsAreTheOriginAsALine) {
+    const QnGeEArc2d arc;
+    const QnGeSpline2d spline;
+    for (const QnGeCurve2d* shell : {static_cast<const QnGeCurve2d*>(&arc), static_cast<const QnGeCurve2d*>(&spline)}) {
+        EXPECT_TRUE(shell->IsFinite());
+        EXPECT_TRUE(shell->IsFinite(true) && shell->IsFinite(false));
+        EXPECT_FALSE(shell->IsInfinite());
+        EXPECT_EQ(shell->GetExtendCurve(), nullptr);
+        ExpectGeo(std::unique_ptr<QnGeMLine2d>(shell->MLinearize(0.0)).get(), "mline 0,0 0,0 close");
+        ExpectGeo(std::unique_ptr<QnGeMLine2d>(shell->PLinearize(0.0)).get(), "mline 0,0 0,0 close");
+        ExpectGeo(std::unique_ptr<QnGeMLine2d>(shell->MLinearizeByDist(1.0, true)).get(), "mline 0,0 close");
+        EXPECT_TRUE(shell->IsConnectWith(*ParseGeoAs<QnGeCurve2d>("seg 0,0 1,0")));
+    }
+}
+
 TEST(EllipseShells, HaveRecordsButNoFactory) {
     struct Row {
         long id;
