@@ -38,7 +38,8 @@ public:
     }
 
     void Run() override {
-        CGAL::compute_subcurves(m_segments.begin(), m_segments.end(), std::back_inserter(m_pieces), false, Traits());
+        Traits traits;
+        CGAL::compute_subcurves(m_segments.begin(), m_segments.end(), std::back_inserter(m_pieces), false, traits);
     }
 
     long GetPieceNum() const override { return static_cast<long>(m_pieces.size()); }

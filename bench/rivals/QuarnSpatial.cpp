@@ -11,23 +11,27 @@
 
 namespace {
 
+void AppendLines(const std::vector<VertexLine>& lines, QnGeObjList& list) {
+    for (const VertexLine& line : lines) {
+        if (line.size() == 2) {
+            list.Append(new QnGeLineSeg2d(line.front(), line.back()));
+            continue;
+        }
+        auto whole = std::make_unique<QnGeMLine2d>(static_cast<long>(line.size()), false);
+        for (std::size_t i = 0; i < line.size(); i++) {
+            whole->SetVertex(static_cast<long>(i), line[i]);
+        }
+        list.Append(whole.release());
+    }
+}
+
 class QuarnNoder : public NodingEngine {
 public:
     std::string GetName() const override { return "QuarnGeo"; }
 
     void Load(const std::vector<VertexLine>& lines) override {
         m_lines.Reset();
-        for (const VertexLine& line : lines) {
-            if (line.size() == 2) {
-                m_lines.Append(new QnGeLineSeg2d(line.front(), line.back()));
-                continue;
-            }
-            auto whole = std::make_unique<QnGeMLine2d>(static_cast<long>(line.size()), false);
-            for (std::size_t i = 0; i < line.size(); i++) {
-                whole->SetVertex(static_cast<long>(i), line[i]);
-            }
-            m_lines.Append(whole.release());
-        }
+        AppendLines(lines, m_lines);
     }
 
     void Run() override { m_lines.InterBreakCurve2d(m_pieces); }
@@ -126,6 +130,14 @@ private:
 };
 
 }  // namespace
+
+long CountPiecesOnce(const std::vector<VertexLine>& lines) {
+    QnGeObjList list;
+    AppendLines(lines, list);
+    QnGeObjList pieces;
+    list.InterBreakCurveEx2d(pieces);
+    return pieces.GetLength();
+}
 
 void AddQuarnSpatial(SpatialEngines& engines) {
     engines.noders.push_back(std::make_unique<QuarnNoder>());

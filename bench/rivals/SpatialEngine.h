@@ -76,6 +76,9 @@ struct SpatialEngines {
     std::vector<std::unique_ptr<BoxEngine>> boxes;
 };
 
+/// The pieces that our library makes of lines when stretches that lie on one another are kept once.
+long CountPiecesOnce(const std::vector<VertexLine>& lines);
+
 void AddQuarnSpatial(SpatialEngines& engines);
 void AddGeosSpatial(SpatialEngines& engines);
 void AddBoostSpatial(SpatialEngines& engines);
