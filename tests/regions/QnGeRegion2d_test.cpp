@@ -327,9 +327,12 @@ TEST(QnGeRegion2d, OffsetStopsAtTheFirstBoundaryThatCannotBeMoved) {
     ExpectGeo(region.GetBoundary(0), "circle 0,0 r7.5");
     ExpectGeo(region.GetBoundary(1), "circle 0,0 r2 cw");
     ExpectGeo(region.GetBoundary(2), "circle 0,0 r3");
+}
+
+TEST(QnGeRegion2d, OffsetMovesAPolygonsOutlineOutward) {
     QnGePolygon2d polygon = Polygon("0,0 1,0 1,1");
-    EXPECT_FALSE(polygon.Offset(0.1));
-    ExpectGeo(polygon, "region 0,0 1,0 1,1", 0.0);
+    EXPECT_TRUE(polygon.Offset(0.1));
+    ExpectGeo(polygon, "region -0.24142135623731,-0.1 1.1,-0.1 1.1,1.24142135623731");
 }
 
 TEST(QnGeRegion2d, TransformMovesEveryBoundaryAndAMirrorReversesThem) {
