@@ -8,7 +8,7 @@ namespace qn_detail {
 ///
 /// Fails   -1 without parts, `pa` stays.
 /// Why so  Clamped before the conversion, so that no parameter leads out of the range of a whole number; NaN gives
-///         part 0. A parameter beyond 0..1 stays beyond 0..1 on the first or last part.
+///         the first. A parameter beyond 0..1 stays beyond 0..1 on the first or last part.
 inline long PartIndexFromPa(long count, double& pa) {
     if (count == 0) {
         return -1;
