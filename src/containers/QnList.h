@@ -33,8 +33,8 @@ struct QnDListNode : QnListNode<T> {
     static void* operator new(std::size_t bytes, std::align_val_t alignment) {
         return ::operator new(bytes, alignment);
     }
-    static void operator delete(void* node, std::size_t bytes, std::align_val_t alignment) {
-        ::operator delete(node, bytes, alignment);
+    static void operator delete(void* node, std::size_t /*bytes*/, std::align_val_t alignment) {
+        ::operator delete(node, alignment);  // the sized form is not everywhere
     }
 };
 
