@@ -17,6 +17,7 @@ namespace {
 
 constexpr int LATTICE_LINES = 20000;
 constexpr int FLOAT_LINES = 3000;
+constexpr int LONG_LINES = 1000;
 
 std::vector<unsigned char> RecordOf(const QnGeObjList& list) {
     std::vector<unsigned char> bytes;
@@ -166,9 +167,23 @@ TEST(ExplodeSelfcrossPlain, LongLatticeLines) {
     }
 }
 
+TEST(ExplodeSelfcrossPlain, CoordinatesOutOfBounds) {
+    const double odd[] = {NOT_A_NUMBER, INF, -INF, 1e200, -1e200, 1e30};
+    for (int i = 0; i < FLOAT_LINES; ++i) {
+        const unsigned seed = CaseSeed(145, i);
+        RandomSource random(seed);
+        QnGeMLine2d line = LatticeLine(random, random.Int(2, 50), 6, 3, random.Coin());
+        for (int times = random.Int(1, 3); times > 0; --times) {
+            QnGePoint& vertex = line[random.Long(0, line.GetVertexNum() - 1)];
+            (random.Coin() ? vertex.x : vertex.y) = odd[random.Int(0, 5)];
+        }
+        ASSERT_NO_FATAL_FAILURE(ExpectSamePieces(line, seed));
+    }
+}
+
 TEST(IsSelfCrossPlain, LongLines) {
     long crossing = 0;
-    for (int i = 0; i < FLOAT_LINES; ++i) {
+    for (int i = 0; i < LONG_LINES; ++i) {
         const unsigned seed = CaseSeed(144, i);
         RandomSource random(seed);
         QnGePolyline2d line = NearlySimpleLine(random, random.Int(20, 120), random.Coin());
@@ -182,6 +197,6 @@ TEST(IsSelfCrossPlain, LongLines) {
         ASSERT_EQ(chords.IsSelfCross(), plain_self_cross::IsSelfCross(chords)) << "seed " << seed << '\n'
                                                                                << Text(chords);
     }
-    EXPECT_GT(crossing, FLOAT_LINES / 5);
-    EXPECT_LT(crossing, FLOAT_LINES * 4 / 5);
+    EXPECT_GT(crossing, LONG_LINES / 5);
+    EXPECT_LT(crossing, LONG_LINES * 4 / 5);
 }
