@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <set>
 #include <sstream>
@@ -81,11 +82,12 @@ std::string CheckNode(const Tree& tree, const std::string& where) {
         }
         const bool right = q == 0 || q == 3;
         const bool above = q == 0 || q == 1;
-        if (child->x.min != (right ? tree.CenterX : tree.x.min) ||
-            child->x.max != (right ? tree.x.max : tree.CenterX) ||
-            child->y.min != (above ? tree.CenterY : tree.y.min) ||
-            child->y.max != (above ? tree.y.max : tree.CenterY)) {
-            return At(where, "child ", q, " has another range than its quarter");
+        // a tree that was hung here as it grew may have its own roundings, or be flatter
+        QnGeExtent2d quarter(right ? tree.CenterX : tree.x.min, right ? tree.x.max : tree.CenterX,
+                             above ? tree.CenterY : tree.y.min, above ? tree.y.max : tree.CenterY);
+        quarter.Inflate(1e-12 * (tree.GetLength() + std::fabs(tree.CenterX) + std::fabs(tree.CenterY)));
+        if (!quarter.IsInclude(*child)) {
+            return At(where, "child ", q, " reaches out of its quarter");
         }
     }
     return "";
