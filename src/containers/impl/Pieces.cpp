@@ -4,7 +4,9 @@
 //
 // Nodes of lists and trees and the triangles of a network come and go singly. A piece that comes back is pushed on the
 // free list of its size and is the next to be taken, most likely still in the cache; where the list is empty, pieces are
-// cut off a slab one after the other, so that what is made together lies together.
+// cut off a slab one after the other, so that what is made together lies together. When the last piece of a size is back,
+// its slabs are cut anew from the first on: a list of pieces in the order in which a large structure was deleted would
+// scatter the next one all over them.
 //
 // Invariant  A piece is a multiple of GRAIN long and lies at a multiple of the largest power of two up to 16 that
 //            divides its length.
@@ -42,8 +44,8 @@ void GivePiece(void* piece, std::size_t bytes) noexcept {
 namespace {
 
 constexpr std::size_t GRAIN = 8;
-constexpr std::size_t MOST_BYTES = 1024;  ///< larger objects come from the heap
-constexpr std::size_t FIRST_SLAB = 1024;
+constexpr std::size_t MOST_BYTES = 2304;  ///< larger objects come from the heap
+constexpr std::size_t FIRST_SLAB = 4096;
 constexpr std::size_t LARGEST_SLAB = std::size_t{1} << 18;
 constexpr std::size_t SLAB_ALIGNMENT = 16;
 
@@ -51,24 +53,49 @@ struct Free {
     Free* next;
 };
 
+/// The head of a slab; pieces follow it.
+struct alignas(SLAB_ALIGNMENT) Slab {
+    Slab* next;
+    std::size_t bytes;
+};
+
 /// The pieces of one length.
 struct Shelf {
     Free* free;        ///< given back
     char* cut;         ///< where the next is cut off
     char* end;         ///< of the slab that is cut
-    std::size_t slab;  ///< length of the last slab
+    Slab* slab;        ///< the slab that is cut
+    Slab* first;       ///< of all slabs
+    std::size_t used;  ///< pieces that are out
 };
 
 Shelf g_shelves[MOST_BYTES / GRAIN + 1] = {};
 
+/// Cuts `slab` from its beginning.
+void Cut(Shelf& shelf, Slab* slab) {
+    shelf.slab = slab;
+    shelf.cut = reinterpret_cast<char*>(slab + 1);
+    shelf.end = reinterpret_cast<char*>(slab) + slab->bytes;
+}
+
+Slab* MakeSlab(std::size_t before) {
+    const std::size_t doubled = before == 0 ? FIRST_SLAB : 2 * before;
+    const std::size_t bytes = doubled > LARGEST_SLAB ? LARGEST_SLAB : doubled;
+    static_assert(__STDCPP_DEFAULT_NEW_ALIGNMENT__ >= SLAB_ALIGNMENT, "slabs serve every piece");
+    return new (::operator new(bytes)) Slab{nullptr, bytes};
+}
+
 void* CutPiece(Shelf& shelf, std::size_t length) {
-    if (static_cast<std::size_t>(shelf.end - shelf.cut) < length) {
-        const std::size_t doubled = shelf.slab == 0 ? FIRST_SLAB : 2 * shelf.slab;
-        const std::size_t bytes = doubled > LARGEST_SLAB ? LARGEST_SLAB : doubled;
-        static_assert(__STDCPP_DEFAULT_NEW_ALIGNMENT__ >= SLAB_ALIGNMENT, "slabs serve every piece");
-        shelf.cut = static_cast<char*>(::operator new(bytes));
-        shelf.end = shelf.cut + bytes;
-        shelf.slab = bytes;
+    while (static_cast<std::size_t>(shelf.end - shelf.cut) < length) {
+        if (shelf.slab == nullptr) {
+            shelf.first = MakeSlab(0);
+            Cut(shelf, shelf.first);
+            continue;
+        }
+        if (shelf.slab->next == nullptr) {
+            shelf.slab->next = MakeSlab(shelf.slab->bytes);
+        }
+        Cut(shelf, shelf.slab->next);
     }
     void* const piece = shelf.cut;
     shelf.cut += length;
@@ -83,6 +110,7 @@ void* TakePiece(std::size_t bytes) {
     }
     const std::size_t grains = (bytes + GRAIN - 1) / GRAIN;
     Shelf& shelf = g_shelves[grains];
+    ++shelf.used;
     Free* const piece = shelf.free;
     if (piece == nullptr) {
         return CutPiece(shelf, grains * GRAIN);
@@ -100,6 +128,11 @@ void GivePiece(void* piece, std::size_t bytes) noexcept {
         return;
     }
     Shelf& shelf = g_shelves[(bytes + GRAIN - 1) / GRAIN];
+    if (--shelf.used == 0) {
+        shelf.free = nullptr;  // all are back: begin anew, in order
+        Cut(shelf, shelf.first);
+        return;
+    }
     auto* const given = static_cast<Free*>(piece);
     given->next = shelf.free;
     shelf.free = given;
