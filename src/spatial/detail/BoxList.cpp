@@ -1,40 +1,249 @@
 // SPDX-License-Identifier: Apache-2.0
+//
+// BoxList.cpp: the list of one tree node's boxes, kept so that little memory is touched.
+//
+// What a tree does is mostly waiting for memory: a list node here, the box that it points to there. So the nodes of a
+// list of some length stand in a row, in groups of four with their boxes on a grid over the tree node's range in front:
+//
+//      | boxes of 0..3 on the grid | node 0 | node 1 | node 2 | node 3 |   | boxes of 4..7 | node 4 | ...
+//
+// A search reads the boxes on the grid, then the nodes of those it meets. Most of them are surely met by what the grid
+// says; only for the others the boxes themselves are read. A long list has a BoxOrder and its nodes singly.
+//
+// States     in a row   m_row, for up to MOST_IN_ROW boxes
+//            ordered    m_order, for more
+//            loose      neither: what every other list is
+// Phases     A search or an insertion of the tree arranges a loose list. What a caller does to the list by its public
+//            operations loosens it first, so that nodes are single objects when they are passed on or deleted.
+// Invariant  The order of places in a row is the order of the list. A place whose box was taken stays empty until the
+//            row moves; the last place in use is never empty.
+// Cost       32 bytes a place, which holds the list node too.
 #include "spatial/detail/BoxList.h"
 
-#include "spatial/detail/BoxOrder.h"
-#include "spatial/detail/BoxRow.h"
+#include <cstddef>
+#include <new>
+
+#include "spatial/detail/ReadAhead.h"
+#include "values/detail/BoxLanes.h"
 
 namespace qn_detail {
+
+BoxList::~BoxList() {
+    if (m_row != nullptr) {
+        FreeRow();
+        m_pHead->next = m_pHead->previous = m_pHead;  // no node is left to the destructor of lists
+    }
+}
+
+// ---- the row ---------------------------------------------------------------------------------------
+
+int BoxList::PlaceOf(const BoxNode* node) const {
+    const std::ptrdiff_t offset = reinterpret_cast<const char*>(node) - reinterpret_cast<const char*>(m_row);
+    const auto group = static_cast<int>(offset / static_cast<std::ptrdiff_t>(sizeof(Group)));
+    return group * GridQuad::COUNT + static_cast<int>(node - m_row[group].nodes);
+}
+
+BoxNode* BoxList::NodeInRow(int place) const {
+    return &m_row[place / GridQuad::COUNT].nodes[place % GridQuad::COUNT];
+}
+
+/// Moves a node of the list to a place, with all links to it.
+void BoxList::PutInRow(int place, const GridBox& box, BoxNode* node) {
+    m_row[place / GridQuad::COUNT].quad.SetBox(place % GridQuad::COUNT, box);
+    BoxNode* const moved = NodeInRow(place);
+    *moved = *node;
+    moved->previous->next = moved;
+    Next(moved)->previous = moved;
+    m_pCurrent = m_pCurrent == node ? moved : m_pCurrent;
+}
+
+/// How many groups a row of so many boxes takes, with some places to spare.
+int BoxList::GroupsFor(long length) {
+    constexpr long SPARE = 6;  // one place for so many boxes
+    return static_cast<int>((length + length / SPARE + GridQuad::COUNT - 1) / GridQuad::COUNT);
+}
+
+/// Moves all nodes, in their order, to a new row of so many groups.
+void BoxList::MoveRow(int groupNum) {
+    Group* const formerRow = m_row;
+    const int formerNum = m_groupNum;
+    const int formerEnd = m_end;
+    m_row = static_cast<Group*>(TakePiece(static_cast<std::size_t>(groupNum) * sizeof(Group)));
+    for (int group = 0; group < groupNum; ++group) {
+        ::new (static_cast<void*>(m_row + group)) Group;
+        m_row[group].quad.Clear();
+    }
+    m_groupNum = static_cast<short>(groupNum);
+    m_end = 0;
+    for (int place = 0; place < formerEnd; ++place) {
+        Group& from = formerRow[place / GridQuad::COUNT];
+        const int lane = place % GridQuad::COUNT;
+        if (from.nodes[lane].data != nullptr) {
+            PutInRow(m_end++, from.quad.GetBox(lane), &from.nodes[lane]);
+        }
+    }
+    m_pTail = m_pHead->previous;
+    DropHint();
+    GivePiece(formerRow, static_cast<std::size_t>(formerNum) * sizeof(Group));
+}
+
+void BoxList::FreeRow() {
+    GivePiece(m_row, static_cast<std::size_t>(m_groupNum) * sizeof(Group));
+    m_row = nullptr;
+    m_groupNum = m_end = 0;
+}
+
+/// The first node with this very box, if the box has the coordinates with which it came.
+BoxNode* BoxList::FindInRow(const Box* box) const {
+    const GridBox gridBox = m_grid.BoxOf(*box);
+    for (int group = 0; group < m_groupNum; ++group) {
+        for (unsigned equal = m_row[group].quad.GetEqual(gridBox); equal != 0;) {
+            BoxNode* const node = &m_row[group].nodes[TakeLowestLane(equal)];
+            if (node->data == box) {
+                return node;
+            }
+        }
+    }
+    return nullptr;
+}
+
+/// Gives up the place of a node that is no more in the list.
+void BoxList::LeavePlace(const BoxNode* node) {
+    const int place = PlaceOf(node);
+    m_row[place / GridQuad::COUNT].quad.SetBox(place % GridQuad::COUNT, GridBox::Empty());
+    NodeInRow(place)->data = nullptr;
+    while (m_end > 0 && NodeInRow(m_end - 1)->data == nullptr) {
+        --m_end;
+    }
+    if (m_nLength > 0 && 2 * GroupsFor(m_nLength) < m_groupNum) {
+        MoveRow(GroupsFor(m_nLength));
+    }
+}
+
+// ---- the states ------------------------------------------------------------------------------------
+
+/// Puts a loose list in a row or in order.
+void BoxList::Arrange(const Box& range) {
+    if (m_row != nullptr || m_order != nullptr || m_nLength == 0) {
+        return;
+    }
+    if (m_nLength > MOST_IN_ROW) {
+        m_order = std::make_unique<BoxOrder>(range);
+        for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
+            m_order->Add(node);
+        }
+        return;
+    }
+    m_grid = Grid(range);
+    MoveRow(GroupsFor(m_nLength));
+    for (BoxNode* node = Next(m_pHead); node != m_pHead;) {
+        BoxNode* const following = Next(node);
+        PutInRow(m_end++, m_grid.BoxOf(*node->data), node);
+        delete node;
+        node = following;
+    }
+    m_pTail = m_pHead->previous;
+}
+
+/// Makes all nodes single objects.
+void BoxList::Loosen() {
+    m_order.reset();
+    if (m_row == nullptr) {
+        return;
+    }
+    for (int place = 0; place < m_end; ++place) {
+        BoxNode* const node = NodeInRow(place);
+        if (node->data != nullptr) {
+            auto* const single = new BoxNode(*node);
+            single->previous->next = single;
+            Next(single)->previous = single;
+            m_pCurrent = m_pCurrent == node ? single : m_pCurrent;
+        }
+    }
+    m_pTail = m_pHead->previous;
+    DropHint();
+    FreeRow();
+}
 
 // ---- for the tree ----------------------------------------------------------------------------------
 
 void BoxList::Add(Box* box, const Box& range) {
-    auto* const node = new BoxNode(box);
-    LinkBefore(node, m_pHead);
-    m_pTail = node;
-    ++m_nLength;
-    m_pCurrent = node;
-    m_nCur = m_nLength - 1;
-    if (m_index == nullptr || !m_index->Add(node)) {
-        m_index.reset();
-        static_cast<void>(GetIndex(range));
+    ReadAhead(m_pHead);
+    ReadAhead(m_pTail);
+    Arrange(range);
+    if (m_order == nullptr && m_nLength < MOST_IN_ROW) {
+        AddToRow(box, range);
+    } else {
+        AddSingly(box, range);
     }
+}
+
+void BoxList::AddToRow(Box* box, const Box& range) {
+    if (m_row == nullptr) {
+        m_grid = Grid(range);
+    }
+    if (m_end == GetSpace()) {
+        MoveRow(GroupsFor(m_nLength + 1));
+    }
+    BoxNode* const node = NodeInRow(m_end);
+    m_row[m_end / GridQuad::COUNT].quad.SetBox(m_end % GridQuad::COUNT, m_grid.BoxOf(*box));
+    node->data = box;
+    ++m_end;
+    LinkAtEnd(node);
+}
+
+void BoxList::AddSingly(Box* box, const Box& range) {
+    if (m_row != nullptr) {
+        Loosen();
+    }
+    auto* const node = new BoxNode(box);
+    LinkAtEnd(node);
+    if (m_order != nullptr && !m_order->Add(node)) {
+        m_order.reset();
+    }
+    Arrange(range);
+}
+
+/// With the cursor on it, as appending leaves it.
+void BoxList::LinkAtEnd(BoxNode* node) {
+    LinkBefore(node, m_pHead);
+    m_pTail = m_pCurrent = node;
+    m_nCur = m_nLength++;
 }
 
 QnGeExtent2d* BoxList::Take(const Box* box) {
-    BoxNode* node = m_index != nullptr ? m_index->Take(box) : nullptr;
+    BoxNode* node = nullptr;
+    if (m_row != nullptr) {
+        node = FindInRow(box);
+    } else if (m_order != nullptr) {
+        node = m_order->Take(box);
+    }
     if (node == nullptr) {
-        node = FindNode(box);
+        node = FindAnywhere(box);
         if (node == nullptr) {
             return nullptr;
         }
-        MakeStale();  // the index, if there is one, holds the node at other coordinates
+        m_order.reset();  // it holds the node at other coordinates
     }
-    return Remove(node);
+    Box* const taken = node->data;
+    --m_nLength;
+    GoOut();
+    DropHint();
+    Unlink(node);
+    if (m_row != nullptr) {
+        LeavePlace(node);
+    } else {
+        delete node;
+        if (m_nLength < FEWEST_IN_ORDER) {
+            m_order.reset();
+        }
+    }
+    m_pTail = m_pHead->previous;
+    return taken;
 }
 
 /// The node of the very object; where there is none, of the first that says it is the same.
-BoxNode* BoxList::FindNode(const Box* box) const {
+BoxNode* BoxList::FindAnywhere(const Box* box) const {
     for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
         if (node->data == box) {
             return node;
@@ -48,136 +257,133 @@ BoxNode* BoxList::FindNode(const Box* box) const {
     return nullptr;
 }
 
-/// Takes a node out of the list that is in the index no more.
-QnGeExtent2d* BoxList::Remove(BoxNode* node) {
-    Box* const box = node->data;
-    Unlink(node);
-    delete node;
-    m_pTail = m_pHead->previous;
-    --m_nLength;
-    GoOut();
-    DropHint();
-    if (m_nLength <= VERY_SHORT) {
-        m_index.reset();
-    }
-    return box;
-}
-
-/// The index if the list is long enough for one.
-const BoxIndex* BoxList::GetIndex(const Box& range) const {
-    if (m_index == nullptr && m_nLength > SHORT) {
-        if (m_nLength > BoxRow::MOST) {
-            m_index = std::make_unique<BoxOrder>(range);
-        } else {
-            m_index = std::make_unique<BoxRow>(range);
-        }
-        for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
-            m_index->Add(node);
+template <class IsHit>
+void BoxList::FindInRow(const Box& box, IsHit isHit, QnDynArrayBase<Box*>& result) const {
+    struct Met {
+        Box* box;
+        bool isSure;
+    };
+    Met met[MOST_IN_ROW];
+    int count = 0;
+    const GridSearch search = m_grid.SearchFor(box);
+    for (int group = 0; group * GridQuad::COUNT < m_end; ++group) {
+        const GridQuad& quad = m_row[group].quad;
+        unsigned meeting = quad.GetMeeting(search.wide);
+        const unsigned sure = quad.GetOverlapping(search.exact);
+        while (meeting != 0) {
+            const int lane = TakeLowestLane(meeting);
+            met[count] = {m_row[group].nodes[lane].data, (sure >> lane & 1U) != 0};
+            if (!met[count].isSure) {
+                ReadAhead(met[count].box);
+            }
+            ++count;
         }
     }
-    return m_index.get();
-}
-
-void BoxList::Find(double x, double y, const Box& range, BoxHits& hits) const {
-    const BoxIndex* const index = GetIndex(range);
-    if (index != nullptr) {
-        index->Find(x, y, hits);
-        return;
-    }
-    for (const BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
-        if (node->data->IsInclude(x, y)) {
-            hits.Add(0, node->data);
+    for (int i = 0; i < count; ++i) {
+        if (met[i].isSure || isHit(*met[i].box)) {
+            result.Append(met[i].box);
         }
     }
 }
 
-void BoxList::Find(const Box& box, const Box& range, BoxHits& hits) const {
-    const BoxIndex* const index = GetIndex(range);
-    if (index != nullptr) {
-        index->Find(box, hits);
-        return;
+void BoxList::Find(double x, double y, const Box& range, QnDynArrayBase<Box*>& result) {
+    Arrange(range);
+    if (m_order != nullptr) {
+        m_order->Find(x, y, result);
+    } else {
+        FindInRow(QnGeExtent2d(x, x, y, y), HoldsPoint{x, y}, result);
     }
-    for (const BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
-        if (node->data->IsInsersectWith(box)) {
-            hits.Add(0, node->data);
-        }
+}
+
+void BoxList::Find(const Box& box, const Box& range, QnDynArrayBase<Box*>& result) {
+    Arrange(range);
+    if (m_order != nullptr) {
+        m_order->Find(box, result);
+    } else {
+        FindInRow(box, MeetsBox{box}, result);
     }
 }
 
 // ---- operations of lists ---------------------------------------------------------------------------
 
 void BoxList::ReAllocate(long length) {
-    MakeStale();
+    Loosen();
     Base::ReAllocate(length);
 }
 
 void BoxList::SetLength(long length, bool keep) {
-    MakeStale();
+    Loosen();
     Base::SetLength(length, keep);
 }
 
 void BoxList::Reset() {
-    MakeStale();
+    Loosen();
     Base::Reset();
 }
 
 QnGeExtent2d*& BoxList::GetCurData() {
-    MakeStale();  // the caller may write
+    Loosen();
     return Base::GetCurData();
 }
 
 void BoxList::SetCurData(Box* const& value) {
-    MakeStale();
+    Loosen();
     Base::SetCurData(value);
 }
 
+/// Conbine goes to the first element that it takes from a list before it takes it.
+void BoxList::MoveTo(long index) {
+    Loosen();
+    Base::MoveTo(index);
+}
+
 QnGeExtent2d*& BoxList::operator[](long index) {
-    MakeStale();  // the caller may write
+    Loosen();
     return Base::operator[](index);
 }
 
 void BoxList::DelCur() {
-    MakeStale();
+    Loosen();
     Base::DelCur();
 }
 
 void BoxList::Sort(int (*compare)(Box* const&, Box* const&)) {
-    MakeStale();
+    Loosen();
     Base::Sort(compare);
 }
 
 void BoxList::Sort(bool ascending) {
-    MakeStale();
+    Loosen();
     Base::Sort(ascending);
 }
 
 bool BoxList::Move(long from, long to) {
-    MakeStale();
+    Loosen();
     return Base::Move(from, to);
 }
 
 void BoxList::InsertAfterCur(Box* const& value) {
-    MakeStale();
+    Loosen();
     Base::InsertAfterCur(value);
 }
 
 void BoxList::DetachAfterCur() {
-    MakeStale();
+    Loosen();
     Base::DetachAfterCur();
 }
 
 long BoxList::Conbine(Base& other, long first) {
-    MakeStale();
+    Loosen();
     return Base::Conbine(other, first);
 }
 
 void BoxList::ReverseList() {
-    MakeStale();
+    Loosen();
     Base::ReverseList();
 }
 
 void BoxList::Rotate(long from, long to) {
-    MakeStale();
+    Loosen();
     Base::Rotate(from, to);
 }
 

@@ -5,48 +5,45 @@
 #include <typeinfo>
 
 #include "containers/QnList.h"
-#include "spatial/detail/BoxIndex.h"
+#include "spatial/detail/BoxOrder.h"
+#include "spatial/detail/GridBox.h"
 #include "values/QnGeExtent2d.h"
 
 namespace qn_detail {
 
-/// The list that a quad tree makes for a node's boxes: a plain list to everyone else, which keeps a BoxIndex beside its
-/// elements once there are some.
+/// The list that a quad tree makes for a tree node's boxes: a plain list to everyone else, in which the tree finds boxes
+/// without going from node to node and from there to boxes all over the memory.
 ///
-/// Whoever changes the list by its public operations makes the index stale, and the next search builds it anew. Boxes
-/// that the tree takes out are found by it; what it does not find is searched for in the list.
-///
-/// Invariant  An index holds the nodes of the list in their order.
+/// See  BoxList.cpp for how it is kept
 class BoxList final : public QnList<QnGeExtent2d*> {
     using Base = QnList<QnGeExtent2d*>;
     using Box = QnGeExtent2d;
 
 public:
     BoxList() = default;
-    ~BoxList() override = default;
+    ~BoxList() override;
     BoxList(const BoxList&) = delete;
     BoxList& operator=(const BoxList&) = delete;
 
     /// The list as a BoxList; null if a caller made it.
-    static BoxList* From(Base* list) { return IsBoxList(list) ? static_cast<BoxList*>(list) : nullptr; }
-    static const BoxList* From(const Base* list) {
-        return IsBoxList(list) ? static_cast<const BoxList*>(list) : nullptr;
+    static BoxList* From(Base* list) {
+        return &typeid(*list) == &typeid(BoxList) ? static_cast<BoxList*>(list) : nullptr;
     }
 
-    // ---- for the tree: `range` is that of the node -----------------------------------------------
+    // ---- for the tree: `range` is that of the tree node ------------------------------------------
 
     /// Appends a box.
     void Add(Box* box, const Box& range);
     /// Takes the element out that is the same as `box` and answers it; null if there is none.
     Box* Take(const Box* box);
-    /// The boxes that hold a point, or meet a box, in order.
-    void Find(double x, double y, const Box& range, BoxHits& hits) const;
-    void Find(const Box& box, const Box& range, BoxHits& hits) const;
+    /// Appends the boxes that hold a point, or meet a box, in order.
+    void Find(double x, double y, const Box& range, QnDynArrayBase<Box*>& result);
+    void Find(const Box& box, const Box& range, QnDynArrayBase<Box*>& result);
 
     static void* operator new(std::size_t bytes) { return TakePiece(bytes); }
     static void operator delete(void* list, std::size_t bytes) { GivePiece(list, bytes); }
 
-    // ---- operations of lists: all that write ------------------------------------------------------
+    // ---- operations of lists: all that write, or go where writing starts --------------------------
 protected:
     void ReAllocate(long length) override;
 
@@ -55,6 +52,7 @@ public:
     void Reset() override;
     Box*& GetCurData() override;
     void SetCurData(Box* const& value) override;
+    void MoveTo(long index) override;
     Box*& operator[](long index) override;
     void DelCur() override;
     void Sort(int (*compare)(Box* const&, Box* const&)) override;
@@ -69,16 +67,39 @@ public:
     using Base::operator[];
 
 private:
-    static constexpr long SHORT = 8;       ///< the longest list without an index
-    static constexpr long VERY_SHORT = 5;  ///< the longest that gives up the one it has
+    static constexpr int MOST_IN_ROW = 64;      ///< a longer list is ordered
+    static constexpr int FEWEST_IN_ORDER = 32;  ///< a shorter one goes back into a row
 
-    static bool IsBoxList(const Base* list) { return &typeid(*list) == &typeid(BoxList); }
-    void MakeStale() { m_index.reset(); }
-    const BoxIndex* GetIndex(const Box& range) const;
-    BoxNode* FindNode(const Box* box) const;
-    Box* Remove(BoxNode* node);
+    /// Four places of a row: boxes on the grid, and the list nodes themselves.
+    struct Group {
+        GridQuad quad;
+        BoxNode nodes[GridQuad::COUNT];  ///< without a box where the place is empty
+    };
 
-    mutable std::unique_ptr<BoxIndex> m_index;
+    int GetSpace() const { return m_groupNum * GridQuad::COUNT; }
+    static int GroupsFor(long length);
+    int PlaceOf(const BoxNode* node) const;
+    BoxNode* NodeInRow(int place) const;
+    void PutInRow(int place, const GridBox& box, BoxNode* node);
+    void MoveRow(int groupNum);
+    void FreeRow();
+    BoxNode* FindInRow(const Box* box) const;
+    template <class IsHit>
+    void FindInRow(const Box& box, IsHit isHit, QnDynArrayBase<Box*>& result) const;
+    void LeavePlace(const BoxNode* node);
+
+    void Arrange(const Box& range);
+    void Loosen();
+    void AddToRow(Box* box, const Box& range);
+    void AddSingly(Box* box, const Box& range);
+    void LinkAtEnd(BoxNode* node);
+    BoxNode* FindAnywhere(const Box* box) const;
+
+    std::unique_ptr<BoxOrder> m_order;  ///< of a long list
+    Group* m_row = nullptr;             ///< of any other
+    Grid m_grid;                        ///< of the row
+    short m_groupNum = 0;
+    short m_end = 0;  ///< behind the last place in use
 };
 
 }  // namespace qn_detail

@@ -7,7 +7,7 @@
 // where their middles lie along their arm, and each block knows the boxes of what is below it:
 //
 //      key    arm | middle along the arm | arrival        the order of the blocks
-//      box    on the grid over the node's range           what a search looks at, eight at a time
+//      box    on the grid over the node's range           what a search looks at, four at a time
 //      item   list node, or block below                   in no order within a block
 //
 // Phases     Add     down by the key to the last block that begins at or before it, widening the boxes on the way;
@@ -21,21 +21,22 @@
 // Why so     Arrivals number the entries in the order of the list, since lists grow at the end only: sorting what is
 //            found by them restores it. An arm is chosen, and a middle taken, from the box on the grid alone: no
 //            tolerance takes part, which may differ when the box is taken out.
-// Tolerance  The grid keeps the order of coordinates. So a search that widens its box by twice the tolerance before
-//            putting it on the grid misses nothing; what it comes upon is tested as it stands.
 // Cost       Logarithmic; about 40 bytes a box.
 #include "spatial/detail/BoxOrder.h"
 
 #include <algorithm>
 #include <cstring>
 
+#include "spatial/detail/BoxHits.h"
+#include "spatial/detail/ReadAhead.h"
 #include "values/detail/BoxLanes.h"
 
 namespace qn_detail {
 
 namespace {
 
-constexpr int SPACE = 2 * GridLanes::COUNT;  ///< entries of a block
+constexpr int QUADS = 4;
+constexpr int SPACE = QUADS * GridQuad::COUNT;  ///< entries of a block
 constexpr int HALF = SPACE / 2;
 constexpr int FEW = SPACE / 4;               ///< a block with no more joins another
 constexpr int FEW_TOGETHER = 3 * SPACE / 4;  ///< if the two have no more together
@@ -60,7 +61,7 @@ BoxOrder::Key KeyOf(const GridBox& box) {
 
 /// Up to SPACE entries: list nodes at height 0, else blocks of the height below.
 struct BoxOrder::Block {
-    GridLanes lanes[2];
+    GridQuad quads[QUADS];
     Key keys[SPACE];
     void* items[SPACE];
     int count = 0;
@@ -71,8 +72,8 @@ struct BoxOrder::Block {
     static void* operator new(std::size_t bytes) { return TakePiece(bytes); }
     static void operator delete(void* block, std::size_t bytes) { GivePiece(block, bytes); }
 
-    GridBox GetBox(int i) const { return lanes[i / GridLanes::COUNT].GetBox(i % GridLanes::COUNT); }
-    void SetBox(int i, const GridBox& box) { lanes[i / GridLanes::COUNT].SetBox(i % GridLanes::COUNT, box); }
+    GridBox GetBox(int i) const { return quads[i / GridQuad::COUNT].GetBox(i % GridQuad::COUNT); }
+    void SetBox(int i, const GridBox& box) { quads[i / GridQuad::COUNT].SetBox(i % GridQuad::COUNT, box); }
     Block* GetBlock(int i) const { return static_cast<Block*>(items[i]); }
     BoxNode* GetNode(int i) const { return static_cast<BoxNode*>(items[i]); }
 
@@ -132,8 +133,18 @@ struct BoxOrder::Block {
     }
 
     unsigned GetMeeting(const GridBox& box) const {
-        const unsigned bits = lanes[0].GetMeeting(box) | lanes[1].GetMeeting(box) << GridLanes::COUNT;
+        unsigned bits = 0;
+        for (int k = 0; k < QUADS; ++k) {
+            bits |= quads[k].GetMeeting(box) << (k * GridQuad::COUNT);
+        }
         return bits & ((1U << count) - 1U);
+    }
+    unsigned GetOverlapping(const GridBox& box) const {
+        unsigned bits = 0;
+        for (int k = 0; k < QUADS; ++k) {
+            bits |= quads[k].GetOverlapping(box) << (k * GridQuad::COUNT);
+        }
+        return bits;
     }
 
     Block* Split();
@@ -143,7 +154,7 @@ struct BoxOrder::Block {
     void TidyAfterTake(int i, const GridBox& taken);
     BoxNode* Take(Key first, const GridBox& frame, const QnGeExtent2d* box);
     template <class IsHit>
-    void Find(const GridBox& box, IsHit isHit, BoxHits& hits) const;
+    void Find(const GridSearch& search, IsHit isHit, BoxHits& hits) const;
     static void DeleteAll(Block* block);
 };
 
@@ -273,21 +284,33 @@ void BoxOrder::Block::DeleteAll(Block* block) {
 // ---- finding ---------------------------------------------------------------------------------------
 
 template <class IsHit>
-void BoxOrder::Block::Find(const GridBox& box, IsHit isHit, BoxHits& hits) const {
-    unsigned meeting = GetMeeting(box);
-    while (meeting != 0) {
-        const int i = TakeLowestLane(meeting);
-        if (height > 0) {
-            GetBlock(i)->Find(box, isHit, hits);
-        } else if (isHit(*GetNode(i)->data)) {
-            hits.Add(keys[i] & MOST_ARRIVALS, GetNode(i)->data);
+void BoxOrder::Block::Find(const GridSearch& search, IsHit isHit, BoxHits& hits) const {
+    const unsigned meeting = GetMeeting(search.wide);
+    if (height > 0) {
+        for (unsigned left = meeting; left != 0;) {
+            GetBlock(TakeLowestLane(left))->Find(search, isHit, hits);
+        }
+        return;
+    }
+    const unsigned sure = GetOverlapping(search.exact);
+    for (unsigned left = meeting; left != 0;) {
+        ReadAhead(GetNode(TakeLowestLane(left)));
+    }
+    for (unsigned left = meeting & ~sure; left != 0;) {
+        ReadAhead(GetNode(TakeLowestLane(left))->data);
+    }
+    for (unsigned left = meeting; left != 0;) {
+        const int i = TakeLowestLane(left);
+        QnGeExtent2d* const box = GetNode(i)->data;
+        if ((sure >> i & 1U) != 0 || isHit(*box)) {
+            hits.Add(keys[i] & MOST_ARRIVALS, box);
         }
     }
 }
 
 // ---- the order -------------------------------------------------------------------------------------
 
-BoxOrder::BoxOrder(const QnGeExtent2d& range) : BoxIndex(range), m_root(new Block(0)) {}
+BoxOrder::BoxOrder(const QnGeExtent2d& range) : m_grid(range), m_root(new Block(0)) {}
 
 BoxOrder::~BoxOrder() {
     Block::DeleteAll(m_root);
@@ -320,14 +343,22 @@ BoxNode* BoxOrder::Take(const QnGeExtent2d* box) {
     return node;
 }
 
-void BoxOrder::Find(double x, double y, BoxHits& hits) const {
-    m_root->Find(m_grid.SearchBoxOf(QnGeExtent2d(x, x, y, y)), HoldsPoint{x, y}, hits);
+template <class IsHit>
+void BoxOrder::FindAll(const QnGeExtent2d& box, IsHit isHit, QnDynArrayBase<QnGeExtent2d*>& result) const {
+    BoxHits hits;
+    m_root->Find(m_grid.SearchFor(box), isHit, hits);
     hits.SortByArrival();
+    for (const BoxHits::Hit& hit : hits) {
+        result.Append(hit.box);
+    }
 }
 
-void BoxOrder::Find(const QnGeExtent2d& box, BoxHits& hits) const {
-    m_root->Find(m_grid.SearchBoxOf(box), MeetsBox{box}, hits);
-    hits.SortByArrival();
+void BoxOrder::Find(double x, double y, QnDynArrayBase<QnGeExtent2d*>& result) const {
+    FindAll(QnGeExtent2d(x, x, y, y), HoldsPoint{x, y}, result);
+}
+
+void BoxOrder::Find(const QnGeExtent2d& box, QnDynArrayBase<QnGeExtent2d*>& result) const {
+    FindAll(box, MeetsBox{box}, result);
 }
 
 }  // namespace qn_detail

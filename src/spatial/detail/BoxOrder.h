@@ -1,24 +1,43 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
-#include "spatial/detail/BoxIndex.h"
+#include "containers/QnList.h"
+#include "spatial/detail/GridBox.h"
+#include "values/QnGeExtent2d.h"
 
 namespace qn_detail {
 
-/// The boxes of a node's long list by their place along the node's centre lines.
-///
-/// See  BoxOrder.cpp for how it works
-class BoxOrder final : public BoxIndex {
-public:
-    explicit BoxOrder(const QnGeExtent2d& range);
-    ~BoxOrder() override;
+using BoxNode = QnDListNode<QnGeExtent2d*>;
 
-    bool Add(BoxNode* node) override;
-    BoxNode* Take(const QnGeExtent2d* box) override;
-    void Find(double x, double y, BoxHits& hits) const override;
-    void Find(const QnGeExtent2d& box, BoxHits& hits) const override;
+/// The boxes of a tree node's long list by their place along the node's centre lines: it finds those at a point or a
+/// box, and the list node of a box, without going through the list.
+///
+/// Ownership  List nodes and boxes are looked at.
+/// See        BoxOrder.cpp for how it works
+class BoxOrder {
+public:
+    /// For boxes of a node with this range.
+    explicit BoxOrder(const QnGeExtent2d& range);
+    ~BoxOrder();
+
+    /// Enters the node that has become the last of the list. False and nothing done if there were too many.
+    bool Add(BoxNode* node);
+
+    /// Takes the first node with `box` out and answers it; null if there is none by the coordinates that `box` has.
+    BoxNode* Take(const QnGeExtent2d* box);
+
+    /// Appends the boxes that hold a point, or meet a box, in the order of the list.
+    void Find(double x, double y, QnDynArrayBase<QnGeExtent2d*>& result) const;
+    void Find(const QnGeExtent2d& box, QnDynArrayBase<QnGeExtent2d*>& result) const;
+
+    static void* operator new(std::size_t bytes) { return TakePiece(bytes); }
+    static void operator delete(void* order, std::size_t bytes) { GivePiece(order, bytes); }
+
+    BoxOrder(const BoxOrder&) = delete;
+    BoxOrder& operator=(const BoxOrder&) = delete;
 
     struct Block;
     using Key = std::uint64_t;
@@ -26,8 +45,23 @@ public:
     static constexpr Key MOST_ARRIVALS = (Key{1} << ARRIVAL_BITS) - 1;
 
 private:
+    template <class IsHit>
+    void FindAll(const QnGeExtent2d& box, IsHit isHit, QnDynArrayBase<QnGeExtent2d*>& result) const;
+
+    Grid m_grid;
     Block* m_root;
     Key m_arrivals = 0;
+};
+
+/// What is asked of each box that a search on the grid comes upon.
+struct HoldsPoint {
+    double x;
+    double y;
+    bool operator()(const QnGeExtent2d& box) const { return box.IsInclude(x, y); }
+};
+struct MeetsBox {
+    const QnGeExtent2d& searched;
+    bool operator()(const QnGeExtent2d& box) const { return box.IsInsersectWith(searched); }
 };
 
 }  // namespace qn_detail

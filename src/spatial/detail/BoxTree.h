@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "containers/QnList.h"
+#include "spatial/detail/ReadAhead.h"
 #include "spatial/detail/SectorTree.h"
 
 namespace qn_detail {
@@ -253,6 +254,7 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
 
     /// Appends the boxes that hold a point: deepest node first.
     static void HitPoint(const Tree& node, const QnGePoint& at, Boxes& result) {
+        ReadAhead(node.ExtentList);
         const int sector = SectorOf(node, at);
         if (sector != NO_SECTOR) {
             if (node.Child[sector] != nullptr) {
@@ -269,7 +271,12 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
     /// Appends the boxes that meet `box`, which is cut to the children's cells on the way down.
     static void HitBox(const Tree& node, const Box& box, Boxes& result) {
         const int sector = SectorOf(node, box);
+        ReadAhead(node.ExtentList);
+        ReadAhead(node.OneExtent);
         if (sector == NO_SECTOR) {
+            for (const Tree* child : node.Child) {
+                ReadAhead(child);
+            }
             for (const Tree* child : node.Child) {
                 if (child != nullptr) {
                     const Box cut = box & *child;

@@ -12,7 +12,7 @@
 
 namespace qn_detail {
 
-/// A box in the numbers of a grid over a tree node's range: two bytes a coordinate, eight boxes a cache line.
+/// A box in the numbers of a grid over a tree node's range, two bytes a coordinate.
 struct GridBox {
     std::int16_t x0;
     std::int16_t y0;
@@ -32,10 +32,17 @@ struct GridBox {
     bool HoldsInside(const GridBox& o) const { return x0 < o.x0 && y0 < o.y0 && x1 > o.x1 && y1 > o.y1; }
 };
 
+/// What is searched for on a grid: the box that all that may be met meets, and the box by which some need no test.
+struct GridSearch {
+    GridBox wide;
+    GridBox exact;  ///< what meets it by more than a touch is surely met
+};
+
 /// The grid over a range: it turns coordinates into numbers and keeps their order, so that what meets in the plan meets
 /// on the grid. What lies beyond the range gets the numbers of its border.
 class Grid {
 public:
+    Grid() : Grid(QnGeExtent2d()) {}
     explicit Grid(const QnGeExtent2d& range)
         : m_originX(OriginOf(range.x)),
           m_originY(OriginOf(range.y)),
@@ -49,10 +56,14 @@ public:
         return isBox ? GridBox{X(box.x.min), Y(box.y.min), X(box.x.max), Y(box.y.max)} : GridBox::Empty();
     }
 
-    /// The box that meets on the grid whatever the tests of extents, under their tolerance, let meet `box`.
-    GridBox SearchBoxOf(const QnGeExtent2d& box) const {
-        return {X(box.x.min - Margin(box.x.min, m_originX)), Y(box.y.min - Margin(box.y.min, m_originY)),
-                X(box.x.max + Margin(box.x.max, m_originX)), Y(box.y.max + Margin(box.y.max, m_originY))};
+    /// For what meets or touches `box` by the tests of extents, under their tolerance.
+    ///
+    /// Tolerance  The grid keeps the order of coordinates. So a box on the grid misses nothing that was widened by more
+    ///            than the tolerance before; and what is less by its number is less.
+    GridSearch SearchFor(const QnGeExtent2d& box) const {
+        const GridBox wide = {X(box.x.min - Margin(box.x.min, m_originX)), Y(box.y.min - Margin(box.y.min, m_originY)),
+                              X(box.x.max + Margin(box.x.max, m_originX)), Y(box.y.max + Margin(box.y.max, m_originY))};
+        return {wide, g_distZero >= 0.0 ? BoxOf(box) : GridBox::Empty()};
     }
 
 private:
@@ -81,21 +92,19 @@ private:
     float m_scaleY;
 };
 
-/// Eight boxes of a grid side by side.
-struct alignas(16) GridLanes {
-    static constexpr int COUNT = 8;
+/// Four boxes of a grid side by side.
+struct alignas(16) GridQuad {
+    static constexpr int COUNT = 4;
 
-    std::int16_t x0[COUNT];
-    std::int16_t y0[COUNT];
-    std::int16_t x1[COUNT];
-    std::int16_t y1[COUNT];
+    std::int16_t low[2 * COUNT];   ///< x0 of the four, then y0
+    std::int16_t high[2 * COUNT];  ///< x1, then y1
 
-    GridBox GetBox(int lane) const { return {x0[lane], y0[lane], x1[lane], y1[lane]}; }
+    GridBox GetBox(int lane) const { return {low[lane], low[COUNT + lane], high[lane], high[COUNT + lane]}; }
     void SetBox(int lane, const GridBox& box) {
-        x0[lane] = box.x0;
-        y0[lane] = box.y0;
-        x1[lane] = box.x1;
-        y1[lane] = box.y1;
+        low[lane] = box.x0;
+        low[COUNT + lane] = box.y0;
+        high[lane] = box.x1;
+        high[COUNT + lane] = box.y1;
     }
     void Clear() {
         for (int lane = 0; lane < COUNT; ++lane) {
@@ -105,52 +114,73 @@ struct alignas(16) GridLanes {
 
     /// Bit k is set if the box in lane k meets `box`.
     unsigned GetMeeting(const GridBox& box) const;
-    /// Bit k is set if the box in lane k is `box`.
+    /// Bit k is set if it does so by more than a touch.
+    unsigned GetOverlapping(const GridBox& box) const;
+    /// Bit k is set if it is `box`.
     unsigned GetEqual(const GridBox& box) const;
+
+private:
+    static constexpr unsigned ALL = (1U << COUNT) - 1U;
 };
 
 #if defined(__SSE2__)
 
+/// The eight numbers of a quad.
 inline __m128i LoadNumbers(const std::int16_t* numbers) {
     return _mm_load_si128(reinterpret_cast<const __m128i*>(numbers));
 }
+/// One number for each x, one for each y.
+inline __m128i SpreadNumbers(std::int16_t x, std::int16_t y) {
+    return _mm_unpacklo_epi64(_mm_set1_epi16(x), _mm_set1_epi16(y));
+}
+/// Bits of the four for x, then for y.
 inline unsigned BitsOf(__m128i lanes) {
     return static_cast<unsigned>(_mm_movemask_epi8(_mm_packs_epi16(lanes, _mm_setzero_si128())));
 }
 
-inline unsigned GridLanes::GetMeeting(const GridBox& box) const {
-    const __m128i besideX = _mm_or_si128(_mm_cmpgt_epi16(LoadNumbers(x0), _mm_set1_epi16(box.x1)),
-                                         _mm_cmplt_epi16(LoadNumbers(x1), _mm_set1_epi16(box.x0)));
-    const __m128i besideY = _mm_or_si128(_mm_cmpgt_epi16(LoadNumbers(y0), _mm_set1_epi16(box.y1)),
-                                         _mm_cmplt_epi16(LoadNumbers(y1), _mm_set1_epi16(box.y0)));
-    constexpr unsigned ALL = (1U << COUNT) - 1U;
-    return ~BitsOf(_mm_or_si128(besideX, besideY)) & ALL;
+inline unsigned GridQuad::GetMeeting(const GridBox& box) const {
+    const unsigned beside = BitsOf(_mm_or_si128(_mm_cmpgt_epi16(LoadNumbers(low), SpreadNumbers(box.x1, box.y1)),
+                                                _mm_cmpgt_epi16(SpreadNumbers(box.x0, box.y0), LoadNumbers(high))));
+    return ~(beside | beside >> COUNT) & ALL;
 }
 
-inline unsigned GridLanes::GetEqual(const GridBox& box) const {
-    const __m128i sameX = _mm_and_si128(_mm_cmpeq_epi16(LoadNumbers(x0), _mm_set1_epi16(box.x0)),
-                                        _mm_cmpeq_epi16(LoadNumbers(x1), _mm_set1_epi16(box.x1)));
-    const __m128i sameY = _mm_and_si128(_mm_cmpeq_epi16(LoadNumbers(y0), _mm_set1_epi16(box.y0)),
-                                        _mm_cmpeq_epi16(LoadNumbers(y1), _mm_set1_epi16(box.y1)));
-    return BitsOf(_mm_and_si128(sameX, sameY));
+inline unsigned GridQuad::GetOverlapping(const GridBox& box) const {
+    const unsigned within = BitsOf(_mm_and_si128(_mm_cmpgt_epi16(SpreadNumbers(box.x1, box.y1), LoadNumbers(low)),
+                                                 _mm_cmpgt_epi16(LoadNumbers(high), SpreadNumbers(box.x0, box.y0))));
+    return within & within >> COUNT & ALL;
+}
+
+inline unsigned GridQuad::GetEqual(const GridBox& box) const {
+    const unsigned same = BitsOf(_mm_and_si128(_mm_cmpeq_epi16(LoadNumbers(low), SpreadNumbers(box.x0, box.y0)),
+                                               _mm_cmpeq_epi16(LoadNumbers(high), SpreadNumbers(box.x1, box.y1))));
+    return same & same >> COUNT & ALL;
 }
 
 #else
 
-inline unsigned GridLanes::GetMeeting(const GridBox& box) const {
+inline unsigned GridQuad::GetMeeting(const GridBox& box) const {
     unsigned bits = 0;
     for (int lane = 0; lane < COUNT; ++lane) {
-        const bool meets = x0[lane] <= box.x1 && x1[lane] >= box.x0 && y0[lane] <= box.y1 && y1[lane] >= box.y0;
-        bits |= (meets ? 1U : 0U) << lane;
+        const GridBox b = GetBox(lane);
+        bits |= (b.x0 <= box.x1 && b.x1 >= box.x0 && b.y0 <= box.y1 && b.y1 >= box.y0 ? 1U : 0U) << lane;
     }
     return bits;
 }
 
-inline unsigned GridLanes::GetEqual(const GridBox& box) const {
+inline unsigned GridQuad::GetOverlapping(const GridBox& box) const {
     unsigned bits = 0;
     for (int lane = 0; lane < COUNT; ++lane) {
-        const bool isSame = x0[lane] == box.x0 && x1[lane] == box.x1 && y0[lane] == box.y0 && y1[lane] == box.y1;
-        bits |= (isSame ? 1U : 0U) << lane;
+        const GridBox b = GetBox(lane);
+        bits |= (b.x0 < box.x1 && b.x1 > box.x0 && b.y0 < box.y1 && b.y1 > box.y0 ? 1U : 0U) << lane;
+    }
+    return bits;
+}
+
+inline unsigned GridQuad::GetEqual(const GridBox& box) const {
+    unsigned bits = 0;
+    for (int lane = 0; lane < COUNT; ++lane) {
+        const GridBox b = GetBox(lane);
+        bits |= (b.x0 == box.x0 && b.x1 == box.x1 && b.y0 == box.y0 && b.y1 == box.y1 ? 1U : 0U) << lane;
     }
     return bits;
 }

@@ -33,50 +33,20 @@ struct OrderedBoxLists {
     }
 
     static void HitPoint(const Tree& node, const QnGePoint& at, Boxes& result) {
-        const BoxList* const list = GetList(node);
-        if (list == nullptr) {
-            Plain::HitPoint(node, at, result);
-            return;
-        }
-        BoxHits hits;
-        list->Find(at.x, at.y, node, hits);
-        AppendHits(hits, result);
-    }
-
-    /// The hits alone, for who does not need them all.
-    static void FindAtPoint(const Tree& node, const QnGePoint& at, BoxHits& hits) {
-        const BoxList* const list = GetList(node);
+        BoxList* const list = BoxList::From(node.ExtentList);
         if (list != nullptr) {
-            list->Find(at.x, at.y, node, hits);
-            return;
-        }
-        const QnList<Box*>& foreign = *node.ExtentList;
-        for (Box* const* entry = foreign.GetFirst(); entry != nullptr; entry = foreign.GetNext(entry)) {
-            if ((*entry)->IsInclude(at.x, at.y)) {
-                hits.Add(0, *entry);
-            }
+            list->Find(at.x, at.y, node, result);
+        } else {
+            Plain::HitPoint(node, at, result);
         }
     }
 
     static void HitBox(const Tree& node, const Box& box, Boxes& result) {
-        const BoxList* const list = GetList(node);
-        if (list == nullptr) {
+        BoxList* const list = BoxList::From(node.ExtentList);
+        if (list != nullptr) {
+            list->Find(box, node, result);
+        } else {
             Plain::HitBox(node, box, result);
-            return;
-        }
-        BoxHits hits;
-        list->Find(box, node, hits);
-        AppendHits(hits, result);
-    }
-
-private:
-    static const BoxList* GetList(const Tree& node) {
-        const QnList<Box*>* const list = node.ExtentList;
-        return BoxList::From(list);
-    }
-    static void AppendHits(const BoxHits& hits, Boxes& result) {
-        for (const BoxHits::Hit& hit : hits) {
-            result.Append(hit.box);
         }
     }
 };

@@ -77,8 +77,9 @@ QnGeExtent2d* TreeFinger::GoToPoint(const QnGePoint& point) {
     return sector != NO_SECTOR && one != nullptr && one->IsInclude(point.x, point.y) ? one : nullptr;
 }
 
-void TreeFinger::FindInList(const QnGeQuadTree2d& node, const QnGePoint& point, BoxHits& hits) {
-    OrderedBoxLists::FindAtPoint(node, point, hits);
+void TreeFinger::FindInList(const QnGeQuadTree2d& node, const QnGePoint& point) {
+    m_hits.SetLength(0, true);
+    OrderedBoxLists::HitPoint(node, point, m_hits);
 }
 
 }  // namespace qn_detail

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "containers/QnDynArray.h"
 #include "containers/detail/PodArray.h"
 #include "spatial/QnGeQuadTree2d.h"
-#include "spatial/detail/BoxHits.h"
 
 namespace qn_detail {
 
@@ -57,9 +57,10 @@ private:
     int Descend(const Item& item);
     void DeleteEmptyNodes();
     QnGeExtent2d* GoToPoint(const QnGePoint& point);
-    static void FindInList(const QnGeQuadTree2d& node, const QnGePoint& point, BoxHits& hits);
+    void FindInList(const QnGeQuadTree2d& node, const QnGePoint& point);
 
     PodArray<QnGeQuadTree2d*> m_path;  ///< from the root to the node touched last
+    QnDynArray<QnGeExtent2d*> m_hits;
 };
 
 template <class Visit>
@@ -73,10 +74,9 @@ bool TreeFinger::VisitHits(double x, double y, Visit visit) {
         if (m_path[i]->ExtentList == nullptr) {
             continue;
         }
-        BoxHits hits;
-        FindInList(*m_path[i], point, hits);
-        for (const BoxHits::Hit& hit : hits) {
-            if (visit(hit.box)) {
+        FindInList(*m_path[i], point);
+        for (QnGeExtent2d* const* hit = m_hits.GetFirst(); hit != nullptr; hit = m_hits.GetNext(hit)) {
+            if (visit(*hit)) {
                 return true;
             }
         }
