@@ -16,7 +16,7 @@ namespace {
 void CollectSegments(const QnGeMLine2d& line, QnGeMCurve2d& chain) {
     for (long i = 0; i < line.GetSegNum(); i++) {
         std::unique_ptr<QnGeCurve2d> seg(line.GetCurveSeg(i));
-        if (seg->IsValid()) {
+        if (seg != nullptr && seg->IsValid()) {
             chain.Append(seg.release());
         }
     }

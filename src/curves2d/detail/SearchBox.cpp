@@ -18,35 +18,85 @@ namespace {
 constexpr double ENDLESS = std::numeric_limits<double>::infinity();
 constexpr PlanBox PLANE = {-ENDLESS, ENDLESS, -ENDLESS, ENDLESS};
 
-/// What the tolerances on angles add where a curve has a radius, and the tangents of tiny circles.
-double GetRoundSlack(const QnGeCurve2d& curve) {
+/// What counts of a curve beside its extent.
+struct Shape {
+    double radius;  ///< 0 of what is straight
+    bool isUsual;   ///< a degenerate curve is not: it may meet anything
+};
+
+bool IsUsualCircle(double radius) {
+    return radius > 0.0;
+}
+
+/// An arc without sweep runs, by its angles, over all that shares its circle; with angles of many turns it is not where
+/// these say to the last digits.
+bool IsUsualArc(const QnGeArc2d& arc) {
+    constexpr double SMALLEST_SWEEP = 1e-9;
+    constexpr double LARGEST_ANGLE = 2.0 * QN_TWO_PI;
+    return IsUsualCircle(arc.GetRadius()) && arc.GetCentralAngle() > SMALLEST_SWEEP &&
+           arc.GetCentralAngle() <= LARGEST_ANGLE && std::fabs(arc.GetStartAngle()) <= LARGEST_ANGLE;
+}
+
+/// A segment without a direction has no parameters on its line either.
+bool IsUsualSegment(const QnGeLineSeg2d& segment) {
+    return IsGreater(segment.GetVector().Length(), g_fZero);
+}
+
+Shape GetShape(const QnGeCurve2d& curve) {
     switch (curve.GetClassID()) {
-        case CLASS_ID_CIRCLE2D:
-            return g_angleZero * static_cast<const QnGeCircle2d&>(curve).radius + std::sqrt(g_fZero);
-        case CLASS_ID_ARC2D:
-            return g_angleZero * static_cast<const QnGeArc2d&>(curve).GetRadius() + std::sqrt(g_fZero);
+        case CLASS_ID_LINE_SEG2D:
+            return {0.0, IsUsualSegment(static_cast<const QnGeLineSeg2d&>(curve))};
+        case CLASS_ID_CIRCLE2D: {
+            const double radius = static_cast<const QnGeCircle2d&>(curve).radius;
+            return {radius, IsUsualCircle(radius)};
+        }
+        case CLASS_ID_ARC2D: {
+            const auto& arc = static_cast<const QnGeArc2d&>(curve);
+            return {arc.GetRadius(), IsUsualArc(arc)};
+        }
         default:
-            return 0.0;
+            return {0.0, true};
     }
 }
 
-/// A segment without a direction has no parameters on its line either, and may meet anything.
-bool IsNullSegment(const QnGeCurve2d& curve) {
-    return curve.GetClassID() == CLASS_ID_LINE_SEG2D &&
-           !IsGreater(static_cast<const QnGeLineSeg2d&>(curve).GetVector().Length(), g_fZero);
+/// What the tolerances on angles add where a curve has a radius, and the tangents of tiny circles. The root of a
+/// rounding error is an angle by which a point may be off on a large circle.
+double GetRoundSlack(double radius) {
+    constexpr double ANGLE_ROUNDING = 1e-7;
+    return radius > 0.0 ? std::max(g_angleZero, ANGLE_ROUNDING) * radius + std::sqrt(g_fZero) : 0.0;
 }
 
+/// By how much of their common size nearly parallel curves may be apart where they meet.
+double GetParallelShare() {
+    constexpr double ROUNDING = 1e-15;
+    constexpr double SAFETY = 4.0;
+    return SAFETY * (g_fZero + ROUNDING / g_fZero);
+}
+
+/// What the coordinates and the radius leave open by their magnitude alone.
+double GetRoundingGap(const PlanBox& box, double radius) {
+    constexpr double ROUNDING = 4e-15;
+    const double xFar = std::max(std::fabs(box.xMin), std::fabs(box.xMax));
+    const double yFar = std::max(std::fabs(box.yMin), std::fabs(box.yMax));
+    return ROUNDING * (xFar + yFar + radius);
+}
+
+// Boxes count as apart by more than the share of the hull of both. Of a hull whose boxes are apart the gaps, in x and in
+// y, are a part: so the share of the sizes alone is share / (1 - 2 share), and from half on nothing is ever apart.
 PlanBox MakePrimitiveBox(const QnGeCurve2d& curve) {
+    constexpr double GAP_SHARE = 5.0;  // each of a pair brings half of the gap
+    constexpr double LARGEST_SHARE = 0.4;
+    const bool areTolerancesUsual = g_fZero > 0.0 && g_distZero >= 0.0 && g_angleZero >= 0.0;
+    const double share = GetParallelShare();
+    const Shape shape = GetShape(curve);
     QnGeExtent2d extent;
-    if (!(g_fZero > 0.0) || IsNullSegment(curve) || !curve.GetExtent2d(extent)) {
+    if (!areTolerancesUsual || !(share < LARGEST_SHARE) || !shape.isUsual || !curve.GetExtent2d(extent)) {
         return PLANE;
     }
-    constexpr double GAP_SHARE = 5.0;  // each of a pair brings half of the gap
-    constexpr double ROUNDING = 1e-15;
     const PlanBox box = {extent.x.min, extent.x.max, extent.y.min, extent.y.max};
     const double size = (box.xMax - box.xMin) + (box.yMax - box.yMin);
-    const double gap =
-        GAP_SHARE * std::max(g_distZero, 0.0) + 4.0 * (g_fZero + ROUNDING / g_fZero) * size + GetRoundSlack(curve);
+    const double gap = GAP_SHARE * g_distZero + share / (1.0 - 2.0 * share) * size + GetRoundSlack(shape.radius) +
+                       GetRoundingGap(box, shape.radius);
     const PlanBox grown = box.Widened(gap);
     return grown.IsBounded() ? grown : PLANE;
 }

@@ -12,8 +12,8 @@ namespace qn_detail {
 ///
 /// Tolerance  Grown by more than all tolerances of intersecting together; by so much of each curve's own size that the
 ///            rounding of nearly parallel pairs is covered.
-/// Fails      The whole plane for a curve without an extent, of a class that is not known here, or with coordinates or
-///            tolerances that allow no bound.
+/// Fails      The whole plane for a curve without an extent, of a class that is not known here, without direction,
+///            radius or sweep, or with coordinates or tolerances that allow no bound.
 PlanBox MakeSearchBox(const QnGeCurve2d& curve);
 
 }  // namespace qn_detail

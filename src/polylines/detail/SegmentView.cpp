@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "polylines/detail/SegmentView.h"
 
+#include <typeinfo>
+
 #include "curves2d/detail/CurvePieces.h"
 
 namespace qn_detail {
@@ -19,8 +21,11 @@ void VisitUpTo(const Line& line, long count, PieceVisit visit, void* context) {
 
 }  // namespace
 
+// A class of a caller's may have the record of the one it comes from, and yet explode by itself.
 bool IsPlainPolyline(const QnGeObject& object) {
-    return object.GetCI() == &QnGeMLine2d::s_classInfo || object.GetCI() == &QnGePolyline2d::s_classInfo;
+    const QnRxClassInfo* const record = object.GetCI();
+    return (record == &QnGeMLine2d::s_classInfo && typeid(object) == typeid(QnGeMLine2d)) ||
+           (record == &QnGePolyline2d::s_classInfo && typeid(object) == typeid(QnGePolyline2d));
 }
 
 // A closed multi-line explodes into its closing segment even where it has a single vertex.
