@@ -75,6 +75,13 @@ int QnGeTINTriangle::GetPathType() const {
     return ::GetPathType(*Node[0], *Node[1], *Node[2]);
 }
 
+/// GetDistance2d from the centre.
+double QnGeTINTriangle::DistanceTo(const QnGePoint& p) const {
+    const double dx = CenterX - p.x;
+    const double dy = CenterY - p.y;
+    return std::sqrt(dx * dx + dy * dy);
+}
+
 /// The circle through the nodes, computed relative to the first: far from the origin the squares of whole coordinates
 /// would lose the tolerance. Nodes on one line give a circle of infinities, within which nothing lies.
 void QnGeTINTriangle::ComputeCircle() {
@@ -87,7 +94,7 @@ void QnGeTINTriangle::ComputeCircle() {
     const double det = x3 * y2 - x2 * y3;
     CenterX = (square3 * y2 - square2 * y3) * 0.5 / det + Node[0]->x;
     CenterY = (square3 * x2 - square2 * x3) * 0.5 / -det + Node[0]->y;
-    Radius = GetDistance2d(*Node[0], QnGePoint(CenterX, CenterY));
+    Radius = DistanceTo(*Node[0]);
 }
 
 bool QnGeTINTriangle::IsInsideCircle(const QnGePoint& p) {
@@ -100,9 +107,7 @@ bool QnGeTINTriangle::IsInsideCircle(const QnGePoint& p) {
     if (std::fabs(p.y - CenterY) - Radius >= -g_distZero) {
         return false;
     }
-    const double dx = CenterX - p.x;
-    const double dy = CenterY - p.y;
-    return IsLess(std::sqrt(dx * dx + dy * dy) - Radius, g_distZero);
+    return IsLess(DistanceTo(p) - Radius, g_distZero);
 }
 
 void QnGeTINTriangle::UpdateExtend() {

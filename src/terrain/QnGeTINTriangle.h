@@ -95,5 +95,6 @@ public:
     bool CanSwapDiagonalLine() const;
 
 private:
+    double DistanceTo(const QnGePoint& p) const;
     void ComputeCircle();
 };

@@ -43,11 +43,15 @@ struct Kept {
 class OrderSort {
 public:
     explicit OrderSort(long count)
-        : m_current(new Record[Size(count)]), m_other(new Record[Size(count)]), m_kept(new Kept[Size(count)]) {}
+        : m_current(new Record[Size(count)]),
+          m_other(new Record[Size(count)]),
+          m_codes(new signed char[Size(count)]),
+          m_kept(new Kept[Size(count)]) {}
 
     Record& operator[](long i) { return m_current[Size(i)]; }
     void Sort(long count, const QnGeExtent2d& range) {
-        SortCell(m_current.get(), m_other.get(), count, Cell{range.x.min, range.x.max, range.y.min, range.y.max}, 0);
+        SortCell({m_current.get(), m_other.get(), m_codes.get(), count},
+                 Cell{range.x.min, range.x.max, range.y.min, range.y.max}, 0);
     }
     std::unique_ptr<QnGeTINNode*[]> MergeLevels() const;
 
@@ -56,34 +60,41 @@ private:
         double xMin, xMax, yMin, yMax;
     };
 
+    /// The records of a cell, and the same place in the other buffer and in that of the codes.
+    struct Segment {
+        Record* records;
+        Record* space;
+        signed char* codes;
+        long count;
+    };
+
     static std::size_t Size(long n) { return static_cast<std::size_t>(n); }
     static int CodeOf(const Record& record, double centerX, double centerY);
     static bool CanDivide(const Cell& cell, double centerX, double centerY);
     static bool HoldsAll(Record* records, long count, double centerX, double centerY);
     void Keep(const Record* records, long count, int level);
-    void SortCell(Record* records, Record* space, long count, const Cell& cell, int level);
+    void SortCell(const Segment& segment, const Cell& cell, int level);
 
     std::unique_ptr<Record[]> m_current;
     std::unique_ptr<Record[]> m_other;
+    std::unique_ptr<signed char[]> m_codes;
     std::unique_ptr<Kept[]> m_kept;
     long m_keptCount = 0;
     int m_deepest = 0;
 };
 
+/// Without a branch: which quadrant comes next is anybody's guess.
 int OrderSort::CodeOf(const Record& record, double centerX, double centerY) {
+    constexpr signed char CODES[16] = {BAND, BAND, BAND, BAND, BAND, 0,    3,    BAND,
+                                       BAND, 1,    2,    BAND, BAND, BAND, BAND, BAND};
     const double dx = record.x - centerX;
     const double dy = record.y - centerY;
-    const bool above = IsGreater(dy, g_distZero);
-    if (!above && !IsLess(dy, g_distZero)) {
-        return BAND;
-    }
-    if (IsGreater(dx, g_distZero)) {
-        return above ? 0 : 3;
-    }
-    if (IsLess(dx, g_distZero)) {
-        return above ? 1 : 2;
-    }
-    return BAND;
+    const double tolerance = g_distZero;
+    const int above = dy > tolerance ? 1 : 0;
+    const int below = dy < -tolerance ? 2 : 0;
+    const int right = dx > tolerance ? 4 : 0;
+    const int left = dx < -tolerance ? 8 : 0;
+    return CODES[above | below | right | left];
 }
 
 bool OrderSort::CanDivide(const Cell& cell, double centerX, double centerY) {
@@ -121,7 +132,11 @@ void OrderSort::Keep(const Record* records, long count, int level) {
     m_deepest = level > m_deepest ? level : m_deepest;
 }
 
-void OrderSort::SortCell(Record* records, Record* space, long count, const Cell& cell, int level) {
+void OrderSort::SortCell(const Segment& segment, const Cell& cell, int level) {
+    Record* const records = segment.records;
+    Record* const space = segment.space;
+    signed char* const codes = segment.codes;
+    const long count = segment.count;
     const double centerX = (cell.xMin + cell.xMax) / 2.0;
     const double centerY = (cell.yMin + cell.yMax) / 2.0;
     if (count == 1 || !CanDivide(cell, centerX, centerY) || HoldsAll(records, count, centerX, centerY)) {
@@ -130,7 +145,8 @@ void OrderSort::SortCell(Record* records, Record* space, long count, const Cell&
     }
     long counts[QUADRANTS + 1] = {};
     for (long i = 0; i < count; ++i) {
-        ++counts[CodeOf(records[i], centerX, centerY)];
+        codes[i] = static_cast<signed char>(CodeOf(records[i], centerX, centerY));
+        ++counts[codes[i]];
     }
     long first[QUADRANTS + 1] = {};
     for (int code = 1; code <= BAND; ++code) {
@@ -138,7 +154,7 @@ void OrderSort::SortCell(Record* records, Record* space, long count, const Cell&
     }
     long next[QUADRANTS + 1] = {first[0], first[1], first[2], first[3], first[4]};
     for (long i = 0; i < count; ++i) {
-        space[next[CodeOf(records[i], centerX, centerY)]++] = records[i];
+        space[next[codes[i]]++] = records[i];
     }
     Keep(space + first[BAND], counts[BAND], level);
     const Cell children[QUADRANTS] = {{centerX, cell.xMax, centerY, cell.yMax},
@@ -147,7 +163,7 @@ void OrderSort::SortCell(Record* records, Record* space, long count, const Cell&
                                       {centerX, cell.xMax, cell.yMin, centerY}};
     for (int q = 0; q < QUADRANTS; ++q) {
         if (counts[q] > 0) {
-            SortCell(space + first[q], records + first[q], counts[q], children[q], level + 1);
+            SortCell({space + first[q], records + first[q], codes + first[q], counts[q]}, children[q], level + 1);
         }
     }
 }
