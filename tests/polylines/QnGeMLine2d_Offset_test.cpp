@@ -75,7 +75,8 @@ TEST(MLineOffset, NoDistanceMovesNothing) {
 }
 
 TEST(MLineOffset, ACornerTakesItsHeightFromTheSegmentBeforeIt) {
-    // The first segment rises by 2 a unit and runs on to x = 5; the closing one falls by 1 a unit and runs on to y = -1.
+    // The first segment rises by 2 a unit and runs on to x = 5; the closing one falls by 1 a unit and runs on to
+    // y = -1.
     ExpectOffset("0,0,0 4,0,8 4,4,0", 1.0, "0,-1,0 5,-1,10 5,4,0");
     ExpectOffset("0,0,0 4,0,8 4,4,4 0,4,4 close", 1.0, "-1,-1,-1 5,-1,10 5,5,3 -1,5,4 close");
 }

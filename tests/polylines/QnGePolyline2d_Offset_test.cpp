@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The offset of polylines with arcs: lines and circles moved to the right, corners where they meet, sweeps measured anew.
+// The offset of polylines with arcs: lines and circles moved to the right, corners where they meet, sweeps measured
+// anew.
 
 #include <gtest/gtest.h>
 
