@@ -11,8 +11,11 @@ namespace {
 
 constexpr std::size_t CACHE_LINE = 64;
 
-/// Asks for the memory of a triangle that is to be looked at soon; null does no harm.
+/// Asks for the memory of a triangle that is to be looked at soon, if there is one.
 void FetchAhead(const QnGeTINTriangle* triangle) {
+    if (triangle == nullptr) {
+        return;
+    }
     const char* const first = reinterpret_cast<const char*>(triangle);
     for (std::size_t at = 0; at < sizeof(QnGeTINTriangle); at += CACHE_LINE) {
         __builtin_prefetch(first + at);

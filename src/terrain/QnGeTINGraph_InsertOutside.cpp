@@ -44,12 +44,13 @@ int TurnTo(const Ring& ring, QnGeTINOutEdge* const* entry, const QnGeTINNode& no
 
 }  // namespace
 
-/// The index of the hull if it is long. One that a caller has put out of step by changing the list is made anew.
+/// The index of the hull if it is long. The list is open to callers: one who turns it round, or takes records off or
+/// puts some in at its ends, puts the index out of step, and it is made anew.
 qn_detail::HullIndex* QnGeTINGraph::GetHullIndex() {
     const long length = OutEdgeList.GetLength();
     if (length <= LONG_HULL) {
         m_hull.reset();
-    } else if (m_hull == nullptr || m_hull->GetLength() != length) {
+    } else if (m_hull == nullptr || !m_hull->FitsTo(OutEdgeList)) {
         m_hull = std::make_unique<qn_detail::HullIndex>(OutEdgeList);
     }
     return m_hull.get();

@@ -10,8 +10,6 @@
 // Fails      The queue never empties for three or more nodes that all lie on one slanted line: each in turn is sent back.
 #include "terrain/QnGeTINGraph.h"
 
-#include <memory>
-
 #include "terrain/detail/InsertionOrder.h"
 
 namespace {
@@ -36,24 +34,17 @@ void QnGeTINGraph::MakeTIN() {
 
     QnList<QnGeTINNode*> nodes;
     nodes.Conbine(NodeList, 0);
-    const long count = nodes.GetLength();
-    const std::unique_ptr<QnGeTINNode*[]> order = qn_detail::GetInsertionOrder(nodes, NodeTree);
-    nodes.Reset();
-
-    QnListQuene<QnGeTINNode*> deferred;
-    for (long i = 0; i < count; ++i) {
-        QnGeTINNode* const node = order[static_cast<std::size_t>(i)];
-        if (i + AHEAD < count) {
-            __builtin_prefetch(order[static_cast<std::size_t>(i + AHEAD)]);
+    qn_detail::SortForInsertion(nodes, NodeTree);
+    QnGeTINNode* const* ahead = nodes.GetTo(AHEAD);
+    while (!nodes.IsEmpty()) {
+        if (ahead != nullptr) {
+            __builtin_prefetch(*ahead);
+            ahead = nodes.GetNext(ahead);
         }
+        QnGeTINNode* const node = *nodes.GetFirst();
+        nodes.DelHead();
         if (!Insert(node)) {
-            deferred.EnQuene(node);
-        }
-    }
-    QnGeTINNode* node = nullptr;
-    while (deferred.DeQuene(node)) {
-        if (!Insert(node)) {
-            deferred.EnQuene(node);
+            nodes.Append(node);
         }
     }
 }

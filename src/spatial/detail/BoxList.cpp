@@ -12,7 +12,8 @@
 //
 // States     in a row   m_row, for up to MOST_IN_ROW boxes
 //            ordered    m_order, for more
-//            loose      neither: what every other list is
+//            loose      neither: what every other list is, and one of fewer than FEWEST_IN_ROW boxes, which would waste
+//                       most of a group
 // Phases     A search or an insertion of the tree arranges a loose list. What a caller does to the list by its public
 //            operations loosens it first, so that nodes are single objects when they are passed on or deleted.
 // Invariant  The order of places in a row is the order of the list. A place whose box was taken stays empty until the
@@ -23,7 +24,6 @@
 #include <cstddef>
 #include <new>
 
-#include "spatial/detail/ReadAhead.h"
 #include "values/detail/BoxLanes.h"
 
 namespace qn_detail {
@@ -115,7 +115,9 @@ void BoxList::LeavePlace(const BoxNode* node) {
     while (m_end > 0 && NodeInRow(m_end - 1)->data == nullptr) {
         --m_end;
     }
-    if (m_nLength > 0 && 2 * GroupsFor(m_nLength) < m_groupNum) {
+    if (m_nLength + 1 < FEWEST_IN_ROW) {
+        Loosen();
+    } else if (2 * GroupsFor(m_nLength) < m_groupNum) {
         MoveRow(GroupsFor(m_nLength));
     }
 }
@@ -124,7 +126,7 @@ void BoxList::LeavePlace(const BoxNode* node) {
 
 /// Puts a loose list in a row or in order.
 void BoxList::Arrange(const Box& range) {
-    if (m_row != nullptr || m_order != nullptr || m_nLength == 0) {
+    if (m_row != nullptr || m_order != nullptr || m_nLength < FEWEST_IN_ROW) {
         return;
     }
     if (m_nLength > MOST_IN_ROW) {
@@ -171,17 +173,14 @@ void BoxList::Add(Box* box, const Box& range) {
     ReadAhead(m_pHead);
     ReadAhead(m_pTail);
     Arrange(range);
-    if (m_order == nullptr && m_nLength < MOST_IN_ROW) {
-        AddToRow(box, range);
+    if (m_row != nullptr && m_nLength < MOST_IN_ROW) {
+        AddToRow(box);
     } else {
         AddSingly(box, range);
     }
 }
 
-void BoxList::AddToRow(Box* box, const Box& range) {
-    if (m_row == nullptr) {
-        m_grid = Grid(range);
-    }
+void BoxList::AddToRow(Box* box) {
     if (m_end == GetSpace()) {
         MoveRow(GroupsFor(m_nLength + 1));
     }
@@ -286,10 +285,21 @@ void BoxList::FindInRow(const Box& box, IsHit isHit, QnDynArrayBase<Box*>& resul
     }
 }
 
+template <class IsHit>
+void BoxList::FindLoose(IsHit isHit, QnDynArrayBase<Box*>& result) const {
+    for (const BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
+        if (isHit(*node->data)) {
+            result.Append(node->data);
+        }
+    }
+}
+
 void BoxList::Find(double x, double y, const Box& range, QnDynArrayBase<Box*>& result) {
     Arrange(range);
     if (m_order != nullptr) {
         m_order->Find(x, y, result);
+    } else if (m_row == nullptr) {
+        FindLoose(HoldsPoint{x, y}, result);
     } else {
         FindInRow(QnGeExtent2d(x, x, y, y), HoldsPoint{x, y}, result);
     }
@@ -299,6 +309,8 @@ void BoxList::Find(const Box& box, const Box& range, QnDynArrayBase<Box*>& resul
     Arrange(range);
     if (m_order != nullptr) {
         m_order->Find(box, result);
+    } else if (m_row == nullptr) {
+        FindLoose(MeetsBox{box}, result);
     } else {
         FindInRow(box, MeetsBox{box}, result);
     }

@@ -7,6 +7,7 @@
 #include "containers/QnList.h"
 #include "spatial/detail/BoxOrder.h"
 #include "spatial/detail/GridBox.h"
+#include "spatial/detail/ReadAhead.h"
 #include "values/QnGeExtent2d.h"
 
 namespace qn_detail {
@@ -40,6 +41,14 @@ public:
     void Find(double x, double y, const Box& range, QnDynArrayBase<Box*>& result);
     void Find(const Box& box, const Box& range, QnDynArrayBase<Box*>& result);
 
+    /// Asks for the first places of a row.
+    void ReadRowAhead() const {
+        constexpr int ENOUGH = 4;
+        for (int group = 0; group < m_groupNum && group < ENOUGH; ++group) {
+            ReadAhead(m_row + group);
+        }
+    }
+
     static void* operator new(std::size_t bytes) { return TakePiece(bytes); }
     static void operator delete(void* list, std::size_t bytes) { GivePiece(list, bytes); }
 
@@ -68,6 +77,7 @@ public:
 
 private:
     static constexpr int MOST_IN_ROW = 64;      ///< a longer list is ordered
+    static constexpr int FEWEST_IN_ROW = 5;     ///< a shorter one stays loose
     static constexpr int FEWEST_IN_ORDER = 32;  ///< a shorter one goes back into a row
 
     /// Four places of a row: boxes on the grid, and the list nodes themselves.
@@ -86,11 +96,13 @@ private:
     BoxNode* FindInRow(const Box* box) const;
     template <class IsHit>
     void FindInRow(const Box& box, IsHit isHit, QnDynArrayBase<Box*>& result) const;
+    template <class IsHit>
+    void FindLoose(IsHit isHit, QnDynArrayBase<Box*>& result) const;
     void LeavePlace(const BoxNode* node);
 
     void Arrange(const Box& range);
     void Loosen();
-    void AddToRow(Box* box, const Box& range);
+    void AddToRow(Box* box);
     void AddSingly(Box* box, const Box& range);
     void LinkAtEnd(BoxNode* node);
     BoxNode* FindAnywhere(const Box* box) const;

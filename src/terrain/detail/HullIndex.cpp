@@ -122,6 +122,14 @@ HullIndex::~HullIndex() {
     }
 }
 
+bool HullIndex::FitsTo(const Ring& ring) const {
+    if (ring.GetLength() != m_length || m_length == 0) {
+        return false;
+    }
+    const BlockRef& last = m_blocks[m_blocks.GetLength() - 1];
+    return m_blocks[0].block->entries[0] == ring.GetFirst() && last.block->entries[last.count - 1] == ring.GetLast();
+}
+
 // ---- bounds ----------------------------------------------------------------------------------------
 
 /// Where the last edge of a block ends.

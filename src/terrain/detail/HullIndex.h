@@ -25,7 +25,8 @@ public:
     HullIndex(const HullIndex&) = delete;
     HullIndex& operator=(const HullIndex&) = delete;
 
-    long GetLength() const { return m_length; }
+    /// Whether the ring has the length and the ends that it should have by what was told of it.
+    bool FitsTo(const Ring& ring) const;
 
     /// Moves from edge `index` on to the first that must be looked at, and answers its entry and how many from there on
     /// are to be looked at too; 0 if none is left up to the end of the ring. The edges passed over make no right turn

@@ -20,6 +20,8 @@
 // See        QnGePtQuadTree2d, with which tests compare.
 #include "terrain/detail/InsertionOrder.h"
 
+#include <memory>
+
 #include "terrain/QnGeTINNode.h"
 
 namespace qn_detail {
@@ -186,14 +188,18 @@ std::unique_ptr<QnGeTINNode* []> OrderSort::MergeLevels() const {
 
 }  // namespace
 
-std::unique_ptr<QnGeTINNode* []> GetInsertionOrder(const QnList<QnGeTINNode*>& nodes, const QnGeExtent2d& range) {
+void SortForInsertion(QnList<QnGeTINNode*>& nodes, const QnGeExtent2d& range) {
     OrderSort sort(nodes.GetLength());
     long count = 0;
     for (QnGeTINNode* const* entry = nodes.GetFirst(); entry != nullptr; entry = nodes.GetNext(entry)) {
         sort[count++] = {(*entry)->x, (*entry)->y, *entry};
     }
     sort.Sort(count, range);
-    return sort.MergeLevels();
+    const auto order = sort.MergeLevels();
+    QnGeTINNode* const* next = order.get();
+    for (nodes.MoveToFirst(); !nodes.IsOut(); nodes.MoveToNext()) {
+        nodes.SetCurData(*next++);
+    }
 }
 
 }  // namespace qn_detail

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <memory>
-
 #include "containers/QnList.h"
 #include "values/QnGeExtent2d.h"
 
@@ -10,11 +8,11 @@ class QnGeTINNode;
 
 namespace qn_detail {
 
-/// The nodes in the order in which a QnGePtQuadTree2d of this range, filled in list order, gives them back breadth
-/// first. The tree itself is not made.
+/// Brings the nodes into the order in which a QnGePtQuadTree2d of this range, filled in list order, gives them back
+/// breadth first. The tree itself is not made.
 ///
 /// Requires  No null entry. `range` holds all nodes.
-/// Cost      n times the depth of the tree, in passes over plain records. No memory but for the work, and the result.
-std::unique_ptr<QnGeTINNode*[]> GetInsertionOrder(const QnList<QnGeTINNode*>& nodes, const QnGeExtent2d& range);
+/// Cost      n times the depth of the tree, in passes over plain records. No memory but for the work.
+void SortForInsertion(QnList<QnGeTINNode*>& nodes, const QnGeExtent2d& range);
 
 }  // namespace qn_detail
