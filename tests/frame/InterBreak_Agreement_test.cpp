@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <string>
 
 #include "frame/CurveSoup.h"
@@ -130,6 +131,32 @@ TEST(InterBreakAgreement, OfCoordinatesThatAreNoNumbers) {
         for (long k = random.Long(2, 8); k > 0; --k) {
             const QnGePoint from(coordinate(), coordinate());
             list.Append(new QnGeLineSeg2d(from, QnGePoint(coordinate(), coordinate())));
+        }
+        ExpectSamePieces(list, "seed " + std::to_string(BaseSeed() + i));
+        if (testing::Test::HasFatalFailure()) {
+            return;
+        }
+    }
+}
+
+// So far off that distances are out of range: a segment may then say of any point that it lies there.
+TEST(InterBreakAgreement, OfMultiLinesOutOfRange) {
+    const double odd[] = {std::nan(""), 1e199, 1e200, -3e160};
+    for (unsigned i = 0; i < 600; ++i) {
+        RandomSource random(BaseSeed() + i);
+        CurveSoup soup(random, random.Coin());
+        QnGeObjList list;
+        for (long k = random.Long(2, 14); k > 0; --k) {
+            auto line = std::make_unique<QnGeMLine2d>(0, random.Coin());
+            QnGePoint at;
+            for (long n = random.Long(0, 9); n > 0; --n) {
+                at = random.OneIn(3) ? at : soup.Point();
+                if (random.OneIn(10)) {
+                    (random.Coin() ? at.x : at.y) = odd[random.Int(0, 3)];
+                }
+                line->AppendVertex(at);
+            }
+            list.Append(line.release());
         }
         ExpectSamePieces(list, "seed " + std::to_string(BaseSeed() + i));
         if (testing::Test::HasFatalFailure()) {

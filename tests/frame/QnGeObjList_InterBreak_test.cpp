@@ -12,6 +12,7 @@
 #include "curves2d/QnGeMCurve2d.h"
 #include "curves2d/QnGeSpline2d.h"
 #include "frame/QnGeObjList.h"
+#include "polylines/QnGeMLine2d.h"
 #include "support/ContainerCheckers.h"
 #include "support/ExpectGeo.h"
 #include "values/QnGeExtent2d.h"
@@ -71,6 +72,13 @@ private:
     std::string m_name;
 };
 
+/// A multi-line that knows no parameter of a point.
+class DeafLine : public QnGeMLine2d {
+public:
+    explicit DeafLine(const std::string& text) : QnGeMLine2d(*ParseGeoAs<QnGeMLine2d>(text)) {}
+    bool GetPaFromPt(const QnGePoint& /*pt*/, double& /*pa*/) const override { return false; }
+};
+
 /// A segment of which no copy can be had.
 class Uncopied : public QnGeLineSeg2d {
 public:
@@ -109,8 +117,7 @@ TEST(InterBreak, AnInfiniteLineIsBrokenAgainstAllOthers) {
 }
 
 TEST(InterBreak, ALineBehindTheOthersIsBrokenAgainstAllOfThemToo) {
-    ExpectBroken("seg 100,-1 100,1; line 0,0 1,0",
-                 "seg 100,-1 100,0; seg 100,0 100,1; ray 100,0 -1,0; ray 100,0 1,0");
+    ExpectBroken("seg 100,-1 100,1; line 0,0 1,0", "seg 100,-1 100,0; seg 100,0 100,1; ray 100,0 -1,0; ray 100,0 1,0");
 }
 
 TEST(InterBreak, ACircleOpensAtItsOneTouch) {
@@ -296,6 +303,15 @@ TEST(InterBreak, APointWithoutParameterBreaksTheOtherCurveOnly) {
     QnGeObjList out;
     list.InterBreakCurve2d(out);
     ExpectGeoList(out, "seg 0,0 4,0; seg 2,-1 2,0; seg 2,0 2,1");
+}
+
+TEST(InterBreak, AMultiLineOfTheCallersIsAskedItself) {
+    QnGeObjList list;
+    list.Append(new DeafLine("mline 0,0 4,0 4,4"));
+    list.Append(ParseGeo("mline 2,-1 2,1 5,1").release());
+    QnGeObjList out;
+    list.InterBreakCurve2d(out);
+    ExpectGeoList(out, "mline 0,0 4,0 4,4; mline 2,-1 2,0; mline 2,0 2,1 4,1; mline 4,1 5,1");
 }
 
 /// An exact repeat is dropped, what differs by little stays, and Split makes no piece between the two.

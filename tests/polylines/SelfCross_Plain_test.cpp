@@ -9,6 +9,7 @@
 
 #include "PolylineTesting.h"
 #include "frame/QnGeObjList.h"
+#include "frame/QnPushVar.h"
 #include "support/reference/PlainSelfCross.h"
 
 using namespace polyline_testing;
@@ -178,6 +179,52 @@ TEST(ExplodeSelfcrossPlain, CoordinatesOutOfBounds) {
             (random.Coin() ? vertex.x : vertex.y) = odd[random.Int(0, 5)];
         }
         ASSERT_NO_FATAL_FAILURE(ExpectSamePieces(line, seed));
+    }
+}
+
+// A segment without a direction meets whatever lies on a line through it, however far.
+TEST(ExplodeSelfcrossPlain, DoubledVertices) {
+    for (int i = 0; i < FLOAT_LINES; ++i) {
+        const unsigned seed = CaseSeed(146, i);
+        RandomSource random(seed);
+        QnGeMLine2d line = LatticeLine(random, random.Int(2, 50), 6, 6, random.Coin());
+        for (int times = random.Int(1, 4); times > 0; --times) {
+            const long k = random.Long(0, line.GetVertexNum() - 1);
+            const QnGePoint vertex = line.GetVertex(k);
+            line.InsertVertex(k, QnGePoint(vertex.x + (random.Coin() ? 4e-10 : 0.0), vertex.y, vertex.z));
+        }
+        ASSERT_NO_FATAL_FAILURE(ExpectSamePieces(line, seed));
+        ASSERT_EQ(line.IsSelfCross(), plain_self_cross::IsSelfCross(line)) << "seed " << seed << '\n' << Text(line);
+    }
+}
+
+TEST(ExplodeSelfcrossPlain, UnderOtherTolerances) {
+    struct {
+        double parameter;
+        double length;
+        double angle;
+    } const tolerances[] = {{1e-9, 0.0, 1e-5},   {1e-9, -1e-6, 1e-5}, {1e-9, -0.1, 1e-5},  {1e-6, 1e-3, 1e-5},
+                            {1e-3, 0.5, 1e-5},   {0.01, 1e-6, 1e-5},  {0.3, 1e-6, 1e-5},   {0.0, 1e-6, 1e-5},
+                            {-1e-9, 1e-6, 1e-5}, {1e-15, 1e-6, 1e-5}, {1e-9, 1e300, 1e-5}, {1e-9, NOT_A_NUMBER, 1e-5},
+                            {1e-9, 1e-6, 0.0},   {1e-9, 1e-6, -1e-5}, {1e-9, 1e-6, -0.5},  {1e-9, 1e-6, 0.5}};
+    constexpr int CASES = 300;
+    for (const auto& tolerance : tolerances) {
+        for (int i = 0; i < CASES; ++i) {
+            const unsigned seed = CaseSeed(147, i);
+            RandomSource random(seed);
+            QnGeMLine2d line = LatticeLine(random, random.Int(2, 40), 6, 6, random.Coin());
+            QnGePolyline2d bulged = NearlySimpleLine(random, random.Int(3, 40), random.Coin());
+            if (random.Coin()) {
+                Turn(random, line);
+                Turn(random, bulged);
+            }
+            const QnPushVar<double> parameter(g_fZero, tolerance.parameter);
+            const QnPushVar<double> length(g_distZero, tolerance.length);
+            const QnPushVar<double> angle(g_angleZero, tolerance.angle);
+            ASSERT_NO_FATAL_FAILURE(ExpectSamePieces(line, seed));
+            ASSERT_EQ(line.IsSelfCross(), plain_self_cross::IsSelfCross(line)) << "seed " << seed;
+            ASSERT_EQ(bulged.IsSelfCross(), plain_self_cross::IsSelfCross(bulged)) << "seed " << seed;
+        }
     }
 }
 

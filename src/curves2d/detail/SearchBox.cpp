@@ -81,6 +81,11 @@ double GetRoundingGap(const PlanBox& box, double radius) {
     return ROUNDING * (xFar + yFar + radius);
 }
 
+/// Beyond it lengths, and distances to what is near the origin, may be out of range: tests then say anything.
+bool IsWithinReach(const PlanBox& box) {
+    return box.xMin > -QN_FAR_LIMIT && box.xMax < QN_FAR_LIMIT && box.yMin > -QN_FAR_LIMIT && box.yMax < QN_FAR_LIMIT;
+}
+
 // Boxes count as apart by more than the share of the hull of both. Of a hull whose boxes are apart the gaps, in x and in
 // y, are a part: so the share of the sizes alone is share / (1 - 2 share), and from half on nothing is ever apart.
 PlanBox MakePrimitiveBox(const QnGeCurve2d& curve) {
@@ -98,7 +103,7 @@ PlanBox MakePrimitiveBox(const QnGeCurve2d& curve) {
     const double gap = GAP_SHARE * g_distZero + share / (1.0 - 2.0 * share) * size + GetRoundSlack(shape.radius) +
                        GetRoundingGap(box, shape.radius);
     const PlanBox grown = box.Widened(gap);
-    return grown.IsBounded() ? grown : PLANE;
+    return IsWithinReach(grown) ? grown : PLANE;
 }
 
 PlanBox Hull(const PlanBox& a, const PlanBox& b) {

@@ -38,7 +38,7 @@ private:
 ///     o----o----o----o----o----o----o
 ///     |__ own __|    |____ tail ____|       own: vertices with their homes; tail: vertices of the source
 ///
-/// The home of a vertex is the segment of the source on which the segment that leaves the vertex lies, within the gap of
+/// The home of a vertex is the segment of the source on which the segment that leaves it lies, within the slack of
 /// the search. Homes ascend along the piece, so that what the search lists by home comes in the order of the piece, and
 /// one search over the source serves all its pieces.
 class LinePiece {
@@ -66,6 +66,9 @@ public:
         return IsOwn(k) ? m_own[k].point : m_source->line.GetVertex(GetTailVertex(k));
     }
     const QnGePoint& GetSegEnd(long k) const { return GetVertex(k + 1 < GetVertexNum() ? k + 1 : 0); }
+
+    /// Whether segment `k` is its home as a whole, unchanged.
+    bool IsOfSource(long k) const { return !IsOwn(k) && k + 1 < GetVertexNum(); }
 
     long GetHome(long k) const { return IsOwn(k) ? m_own[k].home : GetTailVertex(k); }
     void SetHome(long k, long home);

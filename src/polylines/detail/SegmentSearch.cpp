@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "frame/QnGeTolerance.h"
-#include "values/QnGeExtent2d.h"
 
 namespace qn_detail {
 
@@ -14,32 +13,24 @@ namespace {
 /// Up to here looking at every box costs less than a tree does.
 constexpr long FEW_BOXES = 24;
 
-PlanBox Hull(const PlanBox& a, const PlanBox& b) {
-    return {std::min(a.xMin, b.xMin), std::max(a.xMax, b.xMax), std::min(a.yMin, b.yMin), std::max(a.yMax, b.yMax)};
-}
-
 }  // namespace
 
-PlanBox SegmentSearch::MakeBox(const QnGeCurve2d& segment) {
-    QnGeExtent2d extent;
-    segment.GetExtent2d(extent);
-    const PlanBox box = {extent.x.min, extent.x.max, extent.y.min, extent.y.max};
-    m_hull = m_hasHull ? Hull(m_hull, box) : box;
-    m_hasHull = true;
-    if (segment.GetClassID() != CLASS_ID_ARC2D) {
-        return box;
-    }
-    const double radius = static_cast<const QnGeArc2d&>(segment).GetRadius();
-    return box.Widened(g_angleZero * radius + std::sqrt(g_fZero));  // start snap and tangents of tiny circles
-}
-
+// Any slack is right, since what does not keep to it is found out. So boxes without bounds, which hold everything
+// anyway, need none.
 void SegmentSearch::Finish() {
-    // Rounding of a nearly parallel pair moves its crossing by the second share.
     constexpr double ROUNDING = 1e-15;
-    const double size = (m_hull.xMax - m_hull.xMin) + (m_hull.yMax - m_hull.yMin);
-    m_gap = 10.0 * g_distZero + 4.0 * (g_fZero + ROUNDING / g_fZero) * size;
-    m_isUsable = g_fZero > 0.0 && std::isfinite(m_gap);
-    if (m_isUsable && m_boxes.GetLength() > FEW_BOXES) {
+    constexpr double SAFETY = 4.0;
+    double size = 0.0;
+    double far = 0.0;
+    for (const PlanBox& box : m_boxes) {
+        if (box.IsBounded()) {
+            size = std::max({size, box.xMax - box.xMin, box.yMax - box.yMin});
+            far = std::max({far, -box.xMin, box.xMax, -box.yMin, box.yMax});
+        }
+    }
+    const double slack = 10.0 * g_distZero + SAFETY * (g_fZero + ROUNDING / g_fZero) * size + SAFETY * ROUNDING * far;
+    m_slack = std::isfinite(slack) && slack > 0.0 ? slack : 0.0;
+    if (m_boxes.GetLength() > FEW_BOXES) {
         m_tree = std::make_unique<BoxSearch>(m_boxes.begin(), m_boxes.GetLength());
     }
 }
@@ -51,8 +42,7 @@ void SegmentSearch::Find(const PlanBox& box, long first, long end, PodArray<std:
     }
     found.Clear();
     for (long i = first; i < end; ++i) {
-        const bool isNear = !m_isUsable || m_boxes[i].Meets(box) || m_boxes[i].HasNoNumber() || box.HasNoNumber();
-        if (isNear) {
+        if (m_boxes[i].Meets(box)) {
             found.Append(static_cast<std::int32_t>(i));
         }
     }

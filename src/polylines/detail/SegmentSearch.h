@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "containers/detail/PodArray.h"
+#include "curves2d/detail/SearchBox.h"
 #include "polylines/detail/SegmentView.h"
 #include "values/detail/BoxSearch.h"
 
@@ -12,39 +13,35 @@ namespace qn_detail {
 
 /// Finds the segments of a line that come near a box, so that pairs which cannot meet are never intersected.
 ///
-/// A box that is widened by GetGap() meets the box of every segment that an intersection could find something with:
-/// the gap is wider than all tolerances of intersecting, and arcs bring their own share with their boxes.
+/// The box of a segment is its search box: segments whose search boxes are apart have no intersection.
 ///
 /// Order  Indexes are listed in ascending order.
-/// Fails  Where the tolerances or coordinates do not allow a gap, every segment counts as near.
 class SegmentSearch {
 public:
     template <class Line>
     explicit SegmentSearch(const Line& line) : m_boxes(line.GetSegNum()) {
         SegmentView view;
         for (long i = 0; i < m_boxes.GetLength(); ++i) {
-            m_boxes[i] = MakeBox(view.Get(line, i));
+            m_boxes[i] = MakeSearchBox(view.Get(line, i));
         }
         Finish();
     }
 
     long GetCount() const { return m_boxes.GetLength(); }
-    double GetGap() const { return m_gap; }
-    bool IsUsable() const { return m_isUsable; }
     const PlanBox& GetBox(long i) const { return m_boxes[i]; }
+
+    /// By how much the box of a part of a segment may reach beyond that of the segment where all is well: more than all
+    /// tolerances and roundings of intersecting.
+    double GetSlack() const { return m_slack; }
 
     /// Replaces `found` by the segments from `first` to before `end` whose box meets `box`.
     void Find(const PlanBox& box, long first, long end, PodArray<std::int32_t>& found) const;
 
 private:
-    PlanBox MakeBox(const QnGeCurve2d& segment);
     void Finish();
 
     PodArray<PlanBox> m_boxes;
-    PlanBox m_hull = {};
-    bool m_hasHull = false;
-    double m_gap = 0.0;
-    bool m_isUsable = false;
+    double m_slack = 0.0;
     std::unique_ptr<BoxSearch> m_tree;  ///< none over a few boxes
 };
 

@@ -2,17 +2,20 @@
 #include "polylines/detail/SegmentTable.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <typeinfo>
 
 #include "curves2d/detail/EvenShares.h"
 #include "curves2d/detail/SearchBox.h"
+#include "frame/QnGeTolerance.h"
 
 namespace qn_detail {
 
 namespace {
 
 constexpr double ENDLESS = std::numeric_limits<double>::infinity();
+constexpr PlanBox PLANE = {-ENDLESS, ENDLESS, -ENDLESS, ENDLESS};
 
 }  // namespace
 
@@ -87,13 +90,15 @@ void SegmentTable::FindNear(const Range& range, long k, PodArray<std::int32_t>& 
     Find(range, m_boxes[k], found);
 }
 
-// The first segment on which the point lies says where, as the plain walk has it.
+// The first segment on which the point lies says where, as the plain walk has it. Of a point whose distance is out of
+// range any segment may say that it lies there.
 bool SegmentTable::GetPaFromPt(const Range& range, const QnGePoint& pt, double& pa) {
     if (range.first < range.end && m_entries[range.first].place < 0) {
         pa = m_entries[range.first].onLine.GetPa(pt.x, pt.y);
         return true;
     }
-    Find(range, {pt.x, pt.x, pt.y, pt.y}, m_near);
+    const bool isWithinReach = std::fabs(pt.x) < QN_FAR_LIMIT && std::fabs(pt.y) < QN_FAR_LIMIT;
+    Find(range, isWithinReach ? PlanBox{pt.x, pt.x, pt.y, pt.y} : PLANE, m_near);
     for (const std::int32_t k : m_near) {
         const QnGeLineSeg2d& segment = GetSegment(k, m_view);
         if (segment.HitTest(pt).HasBit(HIT_ON)) {

@@ -22,7 +22,7 @@ bool IsLineSelfCross(const Line& line) {
     SegmentView viewJ;
     PodArray<std::int32_t> near;
     for (long i = 0; i < count - 1; i++) {
-        search.Find(search.GetBox(i).Widened(search.GetGap()), i + 1, count, near);
+        search.Find(search.GetBox(i), i + 1, count, near);
         const QnGeCurve2d& first = viewI.Get(line, i);
         for (const long j : near) {
             QnGeObjList met;

@@ -18,8 +18,8 @@
 //            before i and makes at most two new ones, at i and i + 1. So only these need be tried against the earlier
 //            ones before the walk goes on at i: it never starts anew, and the answer is that of starting anew.
 // Why so     Pieces are stretches of one source line, so that one search serves all of them. A new segment lies on a
-//            segment of the source, its home. Where rounding takes it further away than the gap of the search, or where
-//            an overlap joins two segments, it has no home, and the piece becomes a source of its own.
+//            segment of the source, its home. Where rounding takes it further away than the slack of the search, or
+//            where an overlap joins two segments, it has no home, and the piece becomes a source of its own.
 //            New segments are tried even where a part of them is known to be free, since the point p is rounded and
 //            tolerances count in lengths of segments.
 // Order      The rest before the loop at every split; of an overlap its two segments before both, the later one first.
@@ -42,10 +42,6 @@ constexpr long FEWEST_VERTICES = 2;  // of a piece that is worth keeping
 
 bool AreNear(const QnGePoint& a, const QnGePoint& b) {
     return IsZero(GetDistance2d(a, b), g_distZero);
-}
-
-PlanBox BoxOf(const QnGePoint& a, const QnGePoint& b) {
-    return {std::min(a.x, b.x), std::max(a.x, b.x), std::min(a.y, b.y), std::max(a.y, b.y)};
 }
 
 bool Contains(const PlanBox& outer, const PlanBox& inner) {
@@ -113,10 +109,8 @@ void SelfCrossPieces::MoveToOwnSource() {
 
 bool SelfCrossPieces::IsInHome(const QnGePoint& from, const QnGePoint& to, long home) const {
     const SegmentSearch& search = m_piece->GetSource().search;
-    if (!search.IsUsable()) {
-        return true;
-    }
-    return home < search.GetCount() && Contains(search.GetBox(home).Widened(search.GetGap()), BoxOf(from, to));
+    return home < search.GetCount() &&
+           Contains(search.GetBox(home).Widened(search.GetSlack()), MakeSearchBox(QnGeLineSeg2d(from, to)));
 }
 
 /// Whether the search can find segment `k` of the piece; true as well if there is no such segment.
@@ -151,11 +145,11 @@ bool SelfCrossPieces::TakeApart() {
 // goes on in the same list, at j. The list is made wide enough for that.
 bool SelfCrossPieces::FindFrom(long i, Contact& contact) {
     const SegmentSearch& search = m_piece->GetSource().search;
-    const double gap = search.GetGap();
+    const double slack = search.GetSlack();
     const PlanBox box = GetBox(i);
     if (!m_isNearKept || !Contains(m_nearBox, box)) {
-        m_nearBox = box.Widened(gap);
-        search.Find(box.Widened(3.0 * gap), m_piece->GetHome(i) + 1, search.GetCount(), m_near);
+        m_nearBox = box.Widened(slack);
+        search.Find(box.Widened(3.0 * slack), m_piece->GetHome(i) + 1, search.GetCount(), m_near);
         m_nearNext = 0;
     }
     m_isNearKept = false;
@@ -174,7 +168,7 @@ bool SelfCrossPieces::FindBefore(long first, long last, Contact& contact) {
     const SegmentSearch& search = m_piece->GetSource().search;
     long best = first;
     for (long d = first; d <= last && d < m_piece->GetSegNum(); ++d) {
-        search.Find(GetBox(d).Widened(2.0 * search.GetGap()), 0, m_piece->GetHome(first), m_nearBefore);
+        search.Find(GetBox(d).Widened(2.0 * search.GetSlack()), 0, m_piece->GetHome(first), m_nearBefore);
         for (const long home : m_nearBefore) {
             const long a = m_piece->FindByHome(home);
             if (a >= best) {
@@ -191,7 +185,7 @@ bool SelfCrossPieces::FindBefore(long first, long last, Contact& contact) {
 }
 
 bool SelfCrossPieces::Meet(long i, long j, Contact& contact) const {
-    if (!MayMeet(i, j)) {
+    if (!GetBox(i).Meets(GetBox(j))) {
         return false;
     }
     QnGeObjList met;
@@ -212,13 +206,6 @@ bool SelfCrossPieces::Meet(long i, long j, Contact& contact) const {
     return true;
 }
 
-bool SelfCrossPieces::MayMeet(long i, long j) const {
-    const SegmentSearch& search = m_piece->GetSource().search;
-    const PlanBox a = GetBox(i).Widened(search.GetGap());
-    const PlanBox b = GetBox(j);
-    return !search.IsUsable() || a.HasNoNumber() || b.HasNoNumber() || a.Meets(b);
-}
-
 bool SelfCrossPieces::AreNeighbours(long i, long j) const {
     return j == i + 1 || (m_piece->IsClosed() && i == 0 && j == m_piece->GetSegNum() - 1);
 }
@@ -228,7 +215,8 @@ QnGeLineSeg2d SelfCrossPieces::GetSegment(long k) const {
 }
 
 PlanBox SelfCrossPieces::GetBox(long k) const {
-    return BoxOf(m_piece->GetVertex(k), m_piece->GetSegEnd(k));
+    return m_piece->IsOfSource(k) ? m_piece->GetSource().search.GetBox(m_piece->GetHome(k))
+                                  : MakeSearchBox(GetSegment(k));
 }
 
 // ---- splitting -----------------------------------------------------------------------------------

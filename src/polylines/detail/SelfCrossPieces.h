@@ -36,7 +36,6 @@ private:
     bool FindFrom(long i, Contact& contact);
     bool FindBefore(long first, long last, Contact& contact);
     bool Meet(long i, long j, Contact& contact) const;
-    bool MayMeet(long i, long j) const;
     bool AreNeighbours(long i, long j) const;
     QnGeLineSeg2d GetSegment(long k) const;
     PlanBox GetBox(long k) const;
