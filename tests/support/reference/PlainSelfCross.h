@@ -10,8 +10,8 @@
 #include "values/QnGePoint2d.h"
 
 /// The plain forms of asking a line for crossings with itself and of taking it apart there: two loops over the segments
-/// at every level, and recursion on the two pieces of the first crossing. The library's pieces must be equal bit for bit,
-/// in this order.
+/// at every level, and recursion on the two pieces of the first crossing. The library's pieces must be equal bit for
+/// bit, in this order.
 namespace plain_self_cross {
 
 /// Every segment with every later one. Neighbours may meet in one point, the two segments of a closed pair in two.
