@@ -122,9 +122,13 @@ inline std::string CheckTriangle(const OpenTin& graph, const QnGeTINTriangle& t,
         if (back < 0) {
             return At(where, "neighbour ", numbers.at(u), " does not point back over edge ", i);
         }
+        // Of the two nodes across an edge one is asked when it comes in, against the circle of the other triangle. For
+        // slivers the other way round need not give the same answer by the tolerance.
         const QnGeTINNode& beyond = *u->Node[(back + 2) % 3];
-        if (rules.emptyCircles &&
-            DepthInCircle(*t.Node[0], *t.Node[1], *t.Node[2], beyond) > static_cast<long double>(g_distZero)) {
+        const QnGeTINNode& opposite = *t.Node[(i + 2) % 3];
+        const auto limit = static_cast<long double>(g_distZero);
+        if (rules.emptyCircles && DepthInCircle(*t.Node[0], *t.Node[1], *t.Node[2], beyond) > limit &&
+            DepthInCircle(*u->Node[0], *u->Node[1], *u->Node[2], opposite) > limit) {
             return At(where, "the node beyond edge ", i, " lies within the circle: ", beyond.x, ',', beyond.y);
         }
     }
