@@ -42,6 +42,7 @@ struct PlainBoxLists {
         return nullptr;
     }
 
+    static void ReadAhead(const Tree&) {}
     static void HitPoint(const Tree& node, const QnGePoint& at, QnDynArrayBase<Box*>& result) {
         AppendHits(
             *node.ExtentList, [&at](const Box& box) { return Sectors::Holds(box, at); }, result);
@@ -254,7 +255,7 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
 
     /// Appends the boxes that hold a point: deepest node first.
     static void HitPoint(const Tree& node, const QnGePoint& at, Boxes& result) {
-        ReadAhead(node.ExtentList);
+        qn_detail::ReadAhead(node.ExtentList);
         const int sector = SectorOf(node, at);
         if (sector != NO_SECTOR) {
             if (node.Child[sector] != nullptr) {
@@ -271,20 +272,11 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
     /// Appends the boxes that meet `box`, which is cut to the children's cells on the way down.
     static void HitBox(const Tree& node, const Box& box, Boxes& result) {
         const int sector = SectorOf(node, box);
-        ReadAhead(node.ExtentList);
-        ReadAhead(node.OneExtent);
+        if (node.ExtentList != nullptr) {
+            BoxLists::ReadAhead(node);
+        }
         if (sector == NO_SECTOR) {
-            for (const Tree* child : node.Child) {
-                ReadAhead(child);
-            }
-            for (const Tree* child : node.Child) {
-                if (child != nullptr) {
-                    const Box cut = box & *child;
-                    if (cut.IsValid()) {
-                        HitBox(*child, cut, result);
-                    }
-                }
-            }
+            HitBoxInChildren(node, box, result);
         } else if (node.Child[sector] != nullptr) {
             HitBox(*node.Child[sector], box, result);
         }
@@ -293,6 +285,26 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
         }
         if (node.ExtentList != nullptr) {
             BoxLists::HitBox(node, box, result);
+        }
+    }
+
+    static void HitBoxInChildren(const Tree& node, const Box& box, Boxes& result) {
+        for (const Tree* child : node.Child) {
+            qn_detail::ReadAhead(child);
+        }
+        bool isMet[COUNT] = {};
+        for (int i = 0; i < COUNT; ++i) {
+            const Tree* const child = node.Child[i];
+            if (child != nullptr) {
+                isMet[i] = (box & *child).IsValid();
+                qn_detail::ReadAhead(child->ExtentList);
+                qn_detail::ReadAhead(child->OneExtent);
+            }
+        }
+        for (int i = 0; i < COUNT; ++i) {
+            if (isMet[i]) {
+                HitBox(*node.Child[i], box & *node.Child[i], result);
+            }
         }
     }
 

@@ -51,9 +51,9 @@ public:
 
     /// What is no box, having a coordinate that is no number, is the empty one: no test of extents lets it through.
     GridBox BoxOf(const QnGeExtent2d& box) const {
-        const bool isBox =
-            !std::isnan(box.x.min) && !std::isnan(box.x.max) && !std::isnan(box.y.min) && !std::isnan(box.y.max);
-        return isBox ? GridBox{X(box.x.min), Y(box.y.min), X(box.x.max), Y(box.y.max)} : GridBox::Empty();
+        return IsBox(box) ? GridBox{NumberOf(X(box.x.min)), NumberOf(Y(box.y.min)), NumberOf(X(box.x.max)),
+                                    NumberOf(Y(box.y.max))}
+                          : GridBox::Empty();
     }
 
     /// For what meets or touches `box` by the tests of extents, under their tolerance.
@@ -61,16 +61,19 @@ public:
     /// Tolerance  The grid keeps the order of coordinates. So a box on the grid misses nothing that was widened by more
     ///            than the tolerance before; and what is less by its number is less.
     GridSearch SearchFor(const QnGeExtent2d& box) const {
-        const GridBox wide = {X(box.x.min - Margin(box.x.min, m_originX)), Y(box.y.min - Margin(box.y.min, m_originY)),
-                              X(box.x.max + Margin(box.x.max, m_originX)), Y(box.y.max + Margin(box.y.max, m_originY))};
-        return {wide, g_distZero >= 0.0 ? BoxOf(box) : GridBox::Empty()};
+        const double x0 = X(box.x.min);
+        const double y0 = Y(box.y.min);
+        const double x1 = X(box.x.max);
+        const double y1 = Y(box.y.max);
+        const GridBox wide = {NumberOf(x0 - MarginX(box.x.min)), NumberOf(y0 - MarginY(box.y.min)),
+                              NumberOf(x1 + MarginX(box.x.max)), NumberOf(y1 + MarginY(box.y.max))};
+        const bool isSure = g_distZero >= 0.0 && IsBox(box);
+        return {wide, isSure ? GridBox{NumberOf(x0), NumberOf(y0), NumberOf(x1), NumberOf(y1)} : GridBox::Empty()};
     }
 
 private:
-    /// Twice the tolerance, and what rounding may take away.
-    static double Margin(double v, double origin) {
-        constexpr double ROUNDING = 1e-15;
-        return 2.0 * g_distZero + ROUNDING * (std::fabs(v) + std::fabs(origin));
+    static bool IsBox(const QnGeExtent2d& box) {
+        return !std::isnan(box.x.min) && !std::isnan(box.x.max) && !std::isnan(box.y.min) && !std::isnan(box.y.max);
     }
     static double OriginOf(const QnGeExtent& range) {
         return std::isfinite(range.GetCenter()) ? range.GetCenter() : 0.0;
@@ -81,10 +84,19 @@ private:
     }
     static std::int16_t NumberOf(double v) {
         constexpr double MOST = GridBox::FARTHEST;
-        return v >= MOST ? GridBox::FARTHEST : (v > -MOST ? static_cast<std::int16_t>(v) : -GridBox::FARTHEST);
+        const double notAbove = v < MOST ? v : MOST;
+        return static_cast<std::int16_t>(notAbove > -MOST ? notAbove : -MOST);
     }
-    std::int16_t X(double x) const { return NumberOf((x - m_originX) * static_cast<double>(m_scaleX)); }
-    std::int16_t Y(double y) const { return NumberOf((y - m_originY) * static_cast<double>(m_scaleY)); }
+    double X(double x) const { return (x - m_originX) * static_cast<double>(m_scaleX); }
+    double Y(double y) const { return (y - m_originY) * static_cast<double>(m_scaleY); }
+
+    /// Twice the tolerance, and what rounding may take away.
+    double MarginX(double x) const { return Margin(x, m_originX) * static_cast<double>(m_scaleX); }
+    double MarginY(double y) const { return Margin(y, m_originY) * static_cast<double>(m_scaleY); }
+    static double Margin(double v, double origin) {
+        constexpr double ROUNDING = 1e-15;
+        return 2.0 * g_distZero + ROUNDING * (std::fabs(v) + std::fabs(origin));
+    }
 
     double m_originX;
     double m_originY;

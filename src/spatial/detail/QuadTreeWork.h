@@ -32,6 +32,13 @@ struct OrderedBoxLists {
         return list != nullptr ? list->Take(box) : Plain::Take(node, box);
     }
 
+    static void ReadAhead(const Tree& node) {
+        const BoxList* const list = BoxList::From(node.ExtentList);
+        if (list != nullptr) {
+            list->ReadRowAhead();
+        }
+    }
+
     static void HitPoint(const Tree& node, const QnGePoint& at, Boxes& result) {
         BoxList* const list = BoxList::From(node.ExtentList);
         if (list != nullptr) {
