@@ -20,7 +20,7 @@
 // Why so     Nothing is assumed of the hull: not that it is convex, nor that its edges have any length. The bound takes
 //            in the rounding of the walk's own formula, which for short edges far from p exceeds the tolerance; such a
 //            block is walked.
-// Cost       For h edges about h / 1000 + 100 steps to find one; h / 64 moves to change one.
+// Cost       For h edges about h / 500 + 50 steps to find one; h / 32 moves to change one.
 #include "terrain/detail/HullIndex.h"
 
 #include <algorithm>
@@ -30,7 +30,7 @@ namespace qn_detail {
 
 namespace {
 
-constexpr long MOST = 64;           ///< edges of a block
+constexpr long MOST = 32;           ///< edges of a block
 constexpr long GROUP = 16;          ///< blocks of a group
 constexpr double ROUNDING = 1e-14;  ///< above all errors of the few operations here, in parts of their operands
 constexpr double NEAR = 5.0;        ///< how far beyond its box, in tolerances, an edge can take a node; in truth 4
