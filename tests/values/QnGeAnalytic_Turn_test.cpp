@@ -2,9 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 
 #include "ValueTesting.h"
 #include "frame/QnGeTolerance.h"
+#include "frame/QnPushVar.h"
 #include "values/QnGeAnalytic.h"
 
 using namespace value_testing;
@@ -33,7 +35,51 @@ void ExpectCorner(const QnGePoint& a, const QnGePoint& b, const QnGePoint& c, co
     EXPECT_EQ(Bits(HitTestAtCorner2d(a, b, c, row.p)), row.answer);
 }
 
+/// The plain form, which divides in every case.
+int TurnByQuotient(const QnGePoint& a, const QnGePoint& b, const QnGePoint& c) {
+    const double area = ((c.x - a.x) * (b.y - c.y) - (c.y - a.y) * (b.x - c.x)) / 2.0;
+    const double v = area / (std::fabs(a.x - b.x) + std::fabs(a.y - b.y));
+    return v < -g_distZero ? LEFT : (v > g_distZero ? RIGHT : STRAIGHT);
+}
+
 }  // namespace
+
+TEST(GetPathType, IsThatOfTheQuotientAtEveryTolerance) {
+    constexpr double NONE = std::numeric_limits<double>::quiet_NaN();
+    constexpr double INF = std::numeric_limits<double>::infinity();
+    Random random(77);
+    for (const double tolerance : {1e-6, 0.0, 1e-12, 0.37, 1e9}) {
+        const QnPushVar<double> push(g_distZero, tolerance);
+        for (int i = 0; i < PROPERTY_CASES; ++i) {
+            const QnGePoint a = random.PlanPoint(9.0);
+            const QnGePoint b = random.PlanPoint(9.0);
+            const QnGePoint c = random.PlanPoint(9.0);
+            ASSERT_EQ(GetPathType(a, b, c), TurnByQuotient(a, b, c));
+            // at the tolerance, and some roundings to both sides of it
+            const double leg = std::fabs(a.x - b.x) + std::fabs(a.y - b.y);
+            const double length = std::hypot(b.x - a.x, b.y - a.y);
+            const double off = 2.0 * tolerance * leg / (length * length) * (1.0 + 1e-16 * std::pow(10.0, i % 6));
+            for (const double side : {off, -off}) {
+                const QnGePoint near(a.x - side * (b.y - a.y), a.y + side * (b.x - a.x));
+                ASSERT_EQ(GetPathType(a, b, near), TurnByQuotient(a, b, near));
+            }
+        }
+        const double odd[] = {0.0, 1.0, -1.0, 1e-200, 1e200, -1e308, INF, -INF, NONE};
+        for (const double x1 : odd) {
+            for (const double y1 : odd) {
+                for (const double x2 : odd) {
+                    for (const double y2 : odd) {
+                        const QnGePoint a(x1, y1);
+                        const QnGePoint b(x2, y2);
+                        const QnGePoint c(y1, x2);
+                        ASSERT_EQ(GetPathType(a, b, c), TurnByQuotient(a, b, c))
+                            << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2 << " at " << tolerance;
+                    }
+                }
+            }
+        }
+    }
+}
 
 TEST(GetPathType, NamesTheTurn) {
     const QnGePoint a(0.0, 0.0);

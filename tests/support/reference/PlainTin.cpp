@@ -15,6 +15,19 @@ bool IsTogether(const QnGePoint& a, const QnGePoint& b) {
     return d >= -g_distZero && d <= g_distZero;
 }
 
+/// GetPathType with its division in every case, which the library's own leaves out where it can.
+int TurnTo(const QnGePoint& a, const QnGePoint& b, const QnGePoint& c) {
+    const double area = ((c.x - a.x) * (b.y - c.y) - (c.y - a.y) * (b.x - c.x)) / 2.0;
+    const double v = area / (std::fabs(a.x - b.x) + std::fabs(a.y - b.y));
+    if (v < -g_distZero) {
+        return PATH_LEFT;
+    }
+    if (v > g_distZero) {
+        return PATH_RIGHT;
+    }
+    return PATH_STRAIGHT;
+}
+
 /// Where p is on the line from a (0) to b (1).
 double ParameterOn(const QnGePoint& a, const QnGePoint& b, const QnGePoint& p) {
     QnGeBaseLine2d line;
@@ -217,7 +230,7 @@ int PlainTin::HitTest(const PlainNode& p, PlainTrg*& trg) const {
         for (int i = 0; i < 3 && !next; ++i) {
             const PlainNode& a = *c->Node[i];
             const PlainNode& b = *c->Node[(i + 1) % 3];
-            const int t = GetPathType(p, a, b);
+            const int t = TurnTo(p, a, b);
             if (t == PATH_LEFT) {
                 continue;
             }
@@ -349,14 +362,14 @@ long PlainTin::FindAndRotateEdge(const PlainNode& p, Index& i) {
         return 1;
     }
     long count = 1;
-    for (Index j = i + 1; j < length && GetPathType(*StartOf(j), *EndOf(j), p) == PATH_RIGHT; ++j) {
+    for (Index j = i + 1; j < length && TurnTo(*StartOf(j), *EndOf(j), p) == PATH_RIGHT; ++j) {
         ++count;
     }
     if (i != 0) {
         return count;
     }
     Index first = length;  // of the run that ends at the end of the list
-    while (first > 0 && GetPathType(*StartOf(first - 1), *EndOf(first - 1), p) == PATH_RIGHT) {
+    while (first > 0 && TurnTo(*StartOf(first - 1), *EndOf(first - 1), p) == PATH_RIGHT) {
         --first;
         ++count;
     }
@@ -436,7 +449,7 @@ bool PlainTin::InsertOutside(NodePtr& node) {
     for (Index i = 0; i < OutEdgeList.size(); ++i) {
         PlainNode* const a = OutEdgeList[i]->Node;
         PlainNode* const b = OutEdgeList[i + 1 < OutEdgeList.size() ? i + 1 : 0]->Node;
-        const int t = GetPathType(*a, *b, p);
+        const int t = TurnTo(*a, *b, p);
         if (t == PATH_RIGHT) {
             return InsertBefore(i, node);
         }
@@ -461,7 +474,7 @@ bool PlainTin::InsertOutside(NodePtr& node) {
 bool PlainTin::InsertThird(NodePtr& node) {
     PlainNode* const p0 = NodeList[0].get();
     PlainNode* const p1 = NodeList[1].get();
-    const int t = GetPathType(*p0, *p1, *node);
+    const int t = TurnTo(*p0, *p1, *node);
     if (t == PATH_STRAIGHT) {
         for (PlainNode* const held : {p0, p1}) {
             if (IsTogether(*node, *held)) {
