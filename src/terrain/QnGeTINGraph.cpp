@@ -83,6 +83,12 @@ void QnGeTINGraph::SetTreeRanges(const QnGeExtent2d& range) {
 
 // ---- the stack -------------------------------------------------------------------------------------
 
+void QnGeTINGraph::TreeChanged() {
+    if (m_finger != nullptr) {
+        m_finger->Forget();
+    }
+}
+
 void QnGeTINGraph::PushLOP(QnGeTINTriangle* triangle) {
     FetchAhead(triangle->NearTrg[1]);
     triangle->Radius = -1.0;

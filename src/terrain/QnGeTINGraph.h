@@ -42,10 +42,12 @@ class TreeFinger;
 /// See        docs/algorithms/triangulation.md
 class QUARNGEO_API QnGeTINGraph {
 protected:
+    /// Makes every triangle of this network.
+    virtual QnGeTINTriangle* NewTriangle() const;
+
     QnDListStack<QnGeTINTriangle*> LOPStack;  ///< triangles whose edge 1 is still to be looked at
     QnListQuene<QnGeTINTriangle*> TrgQuene;   ///< unused here
-    QnGeQuadTree2d
-        TrgTree;  ///< the boxes of the triangles that are not on the stack; changed by PushLOP and PopLOP only
+    QnGeQuadTree2d TrgTree;     ///< boxes of the triangles not on the stack; who changes it himself calls TreeChanged
     QnGePtQuadTree2d NodeTree;  ///< has its range from SetRange; holds nothing between calls
     QnGeExtent2d Range;         ///< of the nodes inserted so far
 
@@ -89,9 +91,6 @@ public:
     void PopLOP();
 
 protected:
-    /// Makes every triangle of this network.
-    virtual QnGeTINTriangle* NewTriangle() const;
-
     /// Flips until the stack is empty.
     void LOP();
     /// The length of the run of hull edges from `index` on that face the node. A run that reaches back over the start
@@ -110,6 +109,10 @@ protected:
     ///
     /// Ownership  On true the node is the graph's.
     bool InsertOutside(QnGeTINNode* node);
+
+    /// Forgets the place in TrgTree from which the next search would start. For derived classes that have changed that
+    /// tree by its own operations.
+    void TreeChanged();
 
     QnPDList<QnGeTINNode> Dropped;  ///< nodes that found no place
 

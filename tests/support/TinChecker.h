@@ -30,6 +30,7 @@ public:
     using QnGeTINGraph::LOPStack;
     using QnGeTINGraph::NewTriangle;
     using QnGeTINGraph::NodeTree;
+    using QnGeTINGraph::TreeChanged;
     using QnGeTINGraph::Range;
     using QnGeTINGraph::TrgQuene;
     using QnGeTINGraph::TrgTree;

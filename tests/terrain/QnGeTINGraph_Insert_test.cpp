@@ -317,6 +317,7 @@ TEST(QnGeTINGraph, HitTestCountsEdgesAndNodesFromOne) {
                 EXPECT_TRUE(tin.graph.TrgTree.Delete(other, false));
             }
         }
+        tin.graph.TreeChanged();
         for (int i = 0; i < 3; ++i) {
             const QnGePoint a = *t->Node[i];
             const QnGePoint b = *t->Node[(i + 1) % 3];
@@ -337,6 +338,7 @@ TEST(QnGeTINGraph, HitTestCountsEdgesAndNodesFromOne) {
                 tin.graph.TrgTree.Insert(other);
             }
         }
+        tin.graph.TreeChanged();
     }
 }
 
@@ -378,6 +380,7 @@ TEST(QnGeTINGraph, NodeWithoutAPlaceGoesWithTheGraphKeptOdd) {
         ASSERT_TRUE(graph.Insert(new QnGeTINNode(p)));
     }
     graph.TrgTree.Reset();  // so that the inside cannot be found
+    graph.TreeChanged();
     auto* const lost = new QnGeTINNode(2, 2);
     EXPECT_FALSE(graph.InsertOutside(lost)) << "no hull edge faces it";
     EXPECT_TRUE(graph.Insert(lost)) << "the caller does not see it";
