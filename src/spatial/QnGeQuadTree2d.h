@@ -60,7 +60,8 @@ public:
     ///
     /// Order  A tree that is not square is built anew, in the order of GetAllExtent.
     void operator+=(QnGeExtent2d* box);
-    /// Takes out the very object `box`, which is freed if `deleteObject` is set.
+    /// Takes out the very object `box`, which is freed if `deleteObject` is set. Where it is not there, a box that calls
+    /// itself the same by IsSameWith goes in its stead.
     ///
     /// Requires  The coordinates that `box` had when it came in.
     /// Fails     False if it is not there.

@@ -187,3 +187,16 @@ TEST(QnGePtOctree, CopiesShareTheNodes) {
         }
     }
 }
+
+TEST(QnGePtOctree, RangesThatAreFlatOnAnyAxisAreNotDivided) {
+    for (int axis = 0; axis < 3; ++axis) {
+        QnGePtOctree tree;
+        tree.SetRange(axis == 0 ? 0 : -8, axis == 0 ? 0 : 8, axis == 1 ? 0 : -8, axis == 1 ? 0 : 8, axis == 2 ? 0 : -8,
+                      axis == 2 ? 0 : 8);
+        QnGePoint a(5, 5, 5);
+        QnGePoint b(5, 5, 5);
+        tree.Insert(&a);
+        tree.Insert(&b);
+        EXPECT_EQ(Elements<QnGePoint*>(tree.PointList), (Points{&a, &b})) << axis;
+    }
+}

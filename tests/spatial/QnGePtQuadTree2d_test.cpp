@@ -307,3 +307,29 @@ TEST(QnGePtQuadTree2d, PointsOnTheCentreLinesComeAheadOfAnythingDeeper) {
         EXPECT_EQ(found[1], &onLineToo);
     }
 }
+
+TEST(QnGePtQuadTree2d, RangesThatAreFlatOnEitherAxisAreNotDivided) {
+    for (const QnGeExtent2d& range : {QnGeExtent2d(-8, 8, 3, 3), QnGeExtent2d(3, 3, -8, 8)}) {
+        QnGePtQuadTree2d tree;
+        tree.SetRange(range.x.min, range.x.max, range.y.min, range.y.max);
+        QnGePoint a(5, 5);
+        QnGePoint b(5, 5);
+        QnGePoint odd(std::nan(""), 5);
+        for (QnGePoint* p : {&a, &b, &odd}) {
+            tree.Insert(p);
+        }
+        EXPECT_EQ(Elements<QnGePoint*>(tree.PointList), (Points{&a, &b, &odd}));
+    }
+}
+
+TEST(QnGePtQuadTree2d, ResultsAreAppended) {
+    Tree16 tree;
+    QnGePoint p(1, 2);
+    tree.Insert(&p);
+    QnList<QnGePoint*> found;
+    tree.GetPointInNode(found);
+    for (const int order : {0, 1, 2}) {
+        tree.GetAllPoint(found, order);
+    }
+    EXPECT_EQ(Elements<QnGePoint*>(found), (Points{&p, &p, &p, &p}));
+}

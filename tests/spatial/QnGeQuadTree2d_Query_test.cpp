@@ -82,6 +82,42 @@ TEST(QnGeQuadTree2d, ChildWithItsMiddleOnACentreLineIsLeftToTheCaller) {
     }
 }
 
+TEST(QnGeQuadTree2d, ChildThatFindsNoPlaceFurtherDownLeavesNoNodeBehind) {
+    for (const bool isBranchThere : {false, true}) {
+        Tree16 tree;
+        Box a(5, 6, 5, 6);
+        Box b(1, 2, 1, 2);
+        if (isBranchThere) {
+            tree.Insert(&a);
+            tree.Insert(&b);
+        }
+        const Boxes2d all = AllOf(tree);
+        for (const QnGePoint& middle : {QnGePoint(4, 2), QnGePoint(2, 4), QnGePoint(4 - 9e-7, 2), QnGePoint(2, 6)}) {
+            const auto subtree = std::make_unique<QnGeQuadTree2d>();
+            subtree->SetRange(middle.x - 0.5, middle.x + 0.5, middle.y - 0.5, middle.y + 0.5);
+            Box held(middle.x + 0.1, middle.x + 0.2, middle.y + 0.1, middle.y + 0.2);
+            subtree->Insert(&held);
+            tree.InsertChild(subtree.get());
+            EXPECT_EQ(AllOf(tree), all);
+            EXPECT_EQ(tree.IsEmptyTree(), !isBranchThere) << middle.x << ' ' << middle.y;
+            EXPECT_EQ(tree_checks::CheckQuadTree(tree), "");
+            EXPECT_EQ(subtree->OneExtent, &held) << "left to the caller as it was";
+        }
+    }
+}
+
+TEST(QnGeQuadTree2d, ChildHungAgainStays) {
+    Tree16 tree;
+    Box box(1, 2, 1, 2);
+    auto* const subtree = new QnGeQuadTree2d;
+    subtree->SetRange(0, 8, 0, 8);
+    subtree->Insert(&box);
+    tree.InsertChild(subtree);
+    tree.InsertChild(subtree);
+    EXPECT_EQ(tree.Child[0], subtree);
+    EXPECT_EQ(AllOf(tree), (Boxes2d{&box}));
+}
+
 TEST(QnGeQuadTree2d, ChildReplacesWhatStoodThereAndPushesASingleBoxDown) {
     Tree16 tree;
     Box a(1, 2, 1, 2);
@@ -147,6 +183,18 @@ TEST(QnGeQuadTree2d, CompressPullsUpAnOnlyChildAgainAndAgain) {
     tree -= &a;
     EXPECT_EQ(Elements<QnGeExtent2d*>(tree.ExtentList), (Boxes2d{&b}));
     EXPECT_EQ(tree.CenterX, b.x.GetCenter());
+}
+
+TEST(QnGeQuadTree2d, SubtractingTheListsLastBoxShrinksToTheSingleOne) {
+    Tree16 tree;
+    Box a(1, 2, 1, 2);
+    Box crossing(-1, 1, -1, 1);
+    tree.Insert(&a);
+    tree.Insert(&crossing);
+    tree -= &crossing;
+    EXPECT_EQ(tree.x.min, 0.5);
+    EXPECT_EQ(tree.OneExtent, nullptr);
+    EXPECT_EQ(Elements<QnGeExtent2d*>(tree.ExtentList), (Boxes2d{&a}));
 }
 
 TEST(QnGeQuadTree2d, CompressOfAnEmptyTreeDoesNothing) {

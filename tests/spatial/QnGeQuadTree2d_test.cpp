@@ -230,6 +230,22 @@ TEST(QnGeQuadTree2d, TinyCellsAreNotDivided) {
     EXPECT_NE(tree.ExtentList, nullptr);
 }
 
+TEST(QnGeQuadTree2d, RangesThatAreFlatOnEitherAxisAreNotDivided) {
+    for (const Box& range : {Box(-8, 8, 3, 3), Box(3, 3, -8, 8), Box(-8, 8, 3, 3 + 2e-6), Box(8, -8, -8, 8)}) {
+        QnGeQuadTree2d tree;
+        tree.SetRange(range.x.min, range.x.max, range.y.min, range.y.max);
+        Box a(5, 6, 5, 6);
+        Box b(5, 6, 5, 6);
+        tree.Insert(&a);
+        tree.Insert(&b);
+        EXPECT_EQ(Elements<QnGeExtent2d*>(tree.ExtentList), (Boxes2d{&a, &b}));
+        EXPECT_EQ(HitsOf(tree, 5.5, 5.5), (Boxes2d{&a, &b}));
+        EXPECT_EQ(HitsOf(tree, Box(5.5, 7, 5.5, 7)), (Boxes2d{&a, &b}));
+        EXPECT_TRUE(tree.Delete(&a, false));
+        EXPECT_TRUE(tree.Delete(&b, false));
+    }
+}
+
 // ---- deleting --------------------------------------------------------------------------------------
 
 TEST(QnGeQuadTree2d, DeletingWhatIsNotThereChangesNothing) {
