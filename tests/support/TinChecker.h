@@ -49,12 +49,17 @@ namespace tin_checks {
 using tree_checks::At;
 using tree_checks::Elements;
 
-/// Twice the signed area of a, b, c, and how far it can be off.
+/// The difference without rounding of note.
+inline long double Gap(double from, double to) {
+    return static_cast<long double>(to) - static_cast<long double>(from);
+}
+
+/// Twice the signed area of a, b, c.
 inline long double Cross(const QnGePoint& a, const QnGePoint& b, const QnGePoint& c) {
-    const long double x2 = static_cast<long double>(b.x) - a.x;
-    const long double y2 = static_cast<long double>(b.y) - a.y;
-    const long double x3 = static_cast<long double>(c.x) - a.x;
-    const long double y3 = static_cast<long double>(c.y) - a.y;
+    const long double x2 = Gap(a.x, b.x);
+    const long double y2 = Gap(a.y, b.y);
+    const long double x3 = Gap(a.x, c.x);
+    const long double y3 = Gap(a.y, c.y);
     return x2 * y3 - x3 * y2;
 }
 
@@ -69,18 +74,18 @@ std::unordered_map<const T*, long> NumbersOf(const QnPDList<T>& list) {
 
 /// How deep `p` lies within the circle through a, b, c, beyond what the arithmetic of doubles can tell.
 inline long double DepthInCircle(const QnGePoint& a, const QnGePoint& b, const QnGePoint& c, const QnGePoint& p) {
-    const long double x2 = static_cast<long double>(b.x) - a.x;
-    const long double y2 = static_cast<long double>(b.y) - a.y;
-    const long double x3 = static_cast<long double>(c.x) - a.x;
-    const long double y3 = static_cast<long double>(c.y) - a.y;
+    const long double x2 = Gap(a.x, b.x);
+    const long double y2 = Gap(a.y, b.y);
+    const long double x3 = Gap(a.x, c.x);
+    const long double y3 = Gap(a.y, c.y);
     const long double d = 2.0L * (x2 * y3 - x3 * y2);
     const long double s2 = x2 * x2 + y2 * y2;
     const long double s3 = x3 * x3 + y3 * y3;
     const long double cx = (y3 * s2 - y2 * s3) / d;
     const long double cy = (x2 * s3 - x3 * s2) / d;
     const long double radius = std::sqrt(cx * cx + cy * cy);
-    const long double px = static_cast<long double>(p.x) - a.x;
-    const long double py = static_cast<long double>(p.y) - a.y;
+    const long double px = Gap(a.x, p.x);
+    const long double py = Gap(a.y, p.y);
     const long double distance = std::sqrt((px - cx) * (px - cx) + (py - cy) * (py - cy));
     const long double far =
         std::max(std::fabs(static_cast<long double>(a.x)), std::fabs(static_cast<long double>(a.y)));

@@ -29,17 +29,17 @@ Measures MeasuresOf(const QnGeTINGraph& graph) {
         const QnGePoint& b = *t->Node[1];
         const QnGePoint& c = *t->Node[2];
         const long double plan = tin_checks::Cross(a, b, c) / 2.0L;
-        const long double x2 = static_cast<long double>(b.x) - a.x;
-        const long double y2 = static_cast<long double>(b.y) - a.y;
-        const long double z2 = static_cast<long double>(b.z) - a.z;
-        const long double x3 = static_cast<long double>(c.x) - a.x;
-        const long double y3 = static_cast<long double>(c.y) - a.y;
-        const long double z3 = static_cast<long double>(c.z) - a.z;
+        const long double x2 = tin_checks::Gap(a.x, b.x);
+        const long double y2 = tin_checks::Gap(a.y, b.y);
+        const long double z2 = tin_checks::Gap(a.z, b.z);
+        const long double x3 = tin_checks::Gap(a.x, c.x);
+        const long double y3 = tin_checks::Gap(a.y, c.y);
+        const long double z3 = tin_checks::Gap(a.z, c.z);
         const long double nx = y2 * z3 - z2 * y3;
         const long double ny = z2 * x3 - x2 * z3;
         all.hullArea += plan;
         all.surface += std::sqrt(nx * nx + ny * ny + 4.0L * plan * plan) / 2.0L;
-        all.volume += plan * (static_cast<long double>(a.z) + b.z + c.z) / 3.0L;
+        all.volume += plan * (static_cast<long double>(a.z) + (z2 + z3) / 3.0L);
     }
     return all;
 }
