@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <initializer_list>
 #include <memory>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "containers/QnDynArray.h"
+#include "curves2d/QnGeArc2d.h"
 #include "curves2d/QnGeCurve2d.h"
 #include "curves2d/QnGeLineSeg2d.h"
 #include "frame/QnGeObjList.h"
@@ -149,6 +151,20 @@ private:
 inline PathCurve SquarePath() {
     return PathCurve(
         {QnGePoint(0.0, 0.0), QnGePoint(4.0, 0.0), QnGePoint(4.0, 4.0), QnGePoint(0.0, 4.0), QnGePoint(0.0, 0.0)});
+}
+
+/// The greatest radius among a curve's arcs, 0 without any.
+inline double GreatestRadius(const QnGeCurve2d& curve) {
+    if (const auto* const arc = dynamic_cast<const QnGeArc2d*>(&curve)) {
+        return arc->GetRadius();
+    }
+    double radius = 0.0;
+    QnGeObjList parts;
+    curve.Explode(parts);
+    for (long i = 0; i < parts.GetLength(); ++i) {
+        radius = std::max(radius, GreatestRadius(static_cast<const QnGeCurve2d&>(*parts.GetAt(i))));
+    }
+    return radius;
 }
 
 }  // namespace curve_testing

@@ -14,6 +14,7 @@
 #include "curves2d/QnGeCircle2d.h"
 #include "curves2d/QnGeLineRay2d.h"
 #include "curves2d/QnGeLineSeg2d.h"
+#include "frame/QnGeTolerance.h"
 #include "polylines/QnGePolyline2d.h"
 #include "support/RandomSource.h"
 #include "values/QnGePointList.h"
@@ -274,9 +275,9 @@ QnGePoint MovedEnd(const QnGeCurve2d& curve, bool atStart) {
     return pt;
 }
 
-/// Straight curves meet under g_distZero; arcs in steps of what their angles take for none, up to a radius of 10.
+/// Curves meet under g_distZero; arcs also take angles of up to g_angleZero for none, at the start and at the sweep.
 double ToleranceOf(const QnGeCurve2d& curve) {
-    return curve.IsMLinear() ? 1e-6 : 1e-6 + 10.0 * 1e-5;
+    return 1e-6 + 2.0 * g_angleZero * curve_testing::GreatestRadius(curve);
 }
 
 /// Whether an end that existed is where it was.
