@@ -125,8 +125,8 @@ void Run(const std::string& data, const std::string& out) {
     CheckWindows(tree, boxes, table);
 
     SvgPicture picture("Boxes of Europe's lands, lakes, rivers and reefs",
-                       "What meets the window comes out of the index without a look at the rest of the world. Boxes "
-                       "wider or higher than 1000 km are found too, but not drawn.");
+                       "What meets the window is found without a look at the rest of the world. Boxes of 1000 km and "
+                       "more are not drawn.");
     picture.Legend(SvgRole::Mark, "window")
         .Legend(SvgRole::Result, "boxes that meet it")
         .Legend(SvgRole::Plain, "other boxes")
