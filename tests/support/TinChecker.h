@@ -30,8 +30,8 @@ public:
     using QnGeTINGraph::LOPStack;
     using QnGeTINGraph::NewTriangle;
     using QnGeTINGraph::NodeTree;
-    using QnGeTINGraph::TreeChanged;
     using QnGeTINGraph::Range;
+    using QnGeTINGraph::TreeChanged;
     using QnGeTINGraph::TrgQuene;
     using QnGeTINGraph::TrgTree;
 };

@@ -14,7 +14,8 @@
 //            ordered    m_order, for more
 //            loose      neither: what every other list is, and one of fewer than FEWEST_IN_ROW boxes, which would waste
 //                       most of a group
-// Phases     A search or an insertion of the tree arranges a loose list. What a caller does to the list by its public
+// Phases     An insertion of the tree arranges a loose list; a search leaves the nodes where they are, for a caller may
+//            be going through them. What a caller does to the list by its public
 //            operations loosens it first, so that nodes are single objects when they are passed on or deleted.
 // Invariant  The order of places in a row is the order of the list. A place whose box was taken stays empty until the
 //            row moves; the last place in use is never empty.
@@ -294,8 +295,7 @@ void BoxList::FindLoose(IsHit isHit, QnDynArrayBase<Box*>& result) const {
     }
 }
 
-void BoxList::Find(double x, double y, const Box& range, QnDynArrayBase<Box*>& result) {
-    Arrange(range);
+void BoxList::Find(double x, double y, QnDynArrayBase<Box*>& result) const {
     if (m_order != nullptr) {
         m_order->Find(x, y, result);
     } else if (m_row == nullptr) {
@@ -305,8 +305,7 @@ void BoxList::Find(double x, double y, const Box& range, QnDynArrayBase<Box*>& r
     }
 }
 
-void BoxList::Find(const Box& box, const Box& range, QnDynArrayBase<Box*>& result) {
-    Arrange(range);
+void BoxList::Find(const Box& box, QnDynArrayBase<Box*>& result) const {
     if (m_order != nullptr) {
         m_order->Find(box, result);
     } else if (m_row == nullptr) {
@@ -339,14 +338,21 @@ QnGeExtent2d*& BoxList::GetCurData() {
 }
 
 void BoxList::SetCurData(Box* const& value) {
+    Box* const box = value;  // may be an element, which moves now
     Loosen();
-    Base::SetCurData(value);
+    Base::SetCurData(box);
 }
 
 /// Conbine goes to the first element that it takes from a list before it takes it.
 void BoxList::MoveTo(long index) {
     Loosen();
     Base::MoveTo(index);
+}
+
+/// Exchanging elements gets them so and writes them.
+QnGeExtent2d* const& BoxList::GetAt(long index) const {
+    const_cast<BoxList*>(this)->Loosen();
+    return Base::GetAt(index);
 }
 
 QnGeExtent2d*& BoxList::operator[](long index) {
@@ -374,9 +380,20 @@ bool BoxList::Move(long from, long to) {
     return Base::Move(from, to);
 }
 
+void BoxList::Insert(long index, Box* const& value) {
+    Box* const box = value;
+    Base::Insert(index, box);
+}
+
+void BoxList::InsertHead(Box* const& value) {
+    Box* const box = value;
+    Base::InsertHead(box);
+}
+
 void BoxList::InsertAfterCur(Box* const& value) {
+    Box* const box = value;  // may be an element, which moves now
     Loosen();
-    Base::InsertAfterCur(value);
+    Base::InsertAfterCur(box);
 }
 
 void BoxList::DetachAfterCur() {

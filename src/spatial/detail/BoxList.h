@@ -38,8 +38,8 @@ public:
     /// Takes the element out that is the same as `box` and answers it; null if there is none.
     Box* Take(const Box* box);
     /// Appends the boxes that hold a point, or meet a box, in order.
-    void Find(double x, double y, const Box& range, QnDynArrayBase<Box*>& result);
-    void Find(const Box& box, const Box& range, QnDynArrayBase<Box*>& result);
+    void Find(double x, double y, QnDynArrayBase<Box*>& result) const;
+    void Find(const Box& box, QnDynArrayBase<Box*>& result) const;
 
     /// Asks for the first places of a row.
     void ReadRowAhead() const {
@@ -62,7 +62,10 @@ public:
     Box*& GetCurData() override;
     void SetCurData(Box* const& value) override;
     void MoveTo(long index) override;
+    Box* const& GetAt(long index) const override;
     Box*& operator[](long index) override;
+    void Insert(long index, Box* const& value) override;
+    void InsertHead(Box* const& value) override;
     void DelCur() override;
     void Sort(int (*compare)(Box* const&, Box* const&)) override;
     void Sort(bool ascending) override;

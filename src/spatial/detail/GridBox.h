@@ -95,7 +95,7 @@ private:
     double MarginY(double y) const { return Margin(y, m_originY) * static_cast<double>(m_scaleY); }
     static double Margin(double v, double origin) {
         constexpr double ROUNDING = 1e-15;
-        return 2.0 * g_distZero + ROUNDING * (std::fabs(v) + std::fabs(origin));
+        return 2.0 * std::fabs(g_distZero) + ROUNDING * (std::fabs(v) + std::fabs(origin));
     }
 
     double m_originX;

@@ -42,7 +42,7 @@ struct OrderedBoxLists {
     static void HitPoint(const Tree& node, const QnGePoint& at, Boxes& result) {
         BoxList* const list = BoxList::From(node.ExtentList);
         if (list != nullptr) {
-            list->Find(at.x, at.y, node, result);
+            list->Find(at.x, at.y, result);
         } else {
             Plain::HitPoint(node, at, result);
         }
@@ -51,7 +51,7 @@ struct OrderedBoxLists {
     static void HitBox(const Tree& node, const Box& box, Boxes& result) {
         BoxList* const list = BoxList::From(node.ExtentList);
         if (list != nullptr) {
-            list->Find(box, node, result);
+            list->Find(box, result);
         } else {
             Plain::HitBox(node, box, result);
         }
