@@ -251,6 +251,6 @@ public:
 /// Makes the named ends of two curves one point, by moving both to where the extensions meet.
 ///
 /// Tolerance  g_distZero in the plan; ends that near are one point already, and nothing changes.
-/// Fails      False, and the curves stay as they were, where they do not meet, or where one would turn round at that end
-///            or grow to more than five times its length.
+/// Fails      False, and the curves stay as they were, where they do not meet, or where one would turn round at that
+///            end or grow to more than five times its length.
 QUARNGEO_API bool ConnectCurveSeg(QnGeCurve2d* a, QnGeCurve2d* b, bool atStartA, bool atStartB);

@@ -26,8 +26,8 @@ public:
 
     /// The place in the world of a point of this system.
     ///
-    /// Fails  Off the ends it is the point that the curve gives for that distance. Where the curve cannot be offset, the
-    ///        place on the curve itself.
+    /// Fails  Off the ends it is the point that the curve gives for that distance. Where the curve cannot be offset,
+    ///        the place on the curve itself.
     QnGePoint CcsToWcs(const QnGePoint& p) const;
 
     /// The point in this system of a place in the world, by way of the curve's closest point.

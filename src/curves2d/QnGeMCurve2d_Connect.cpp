@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // QnGeMCurve2d_Connect.cpp: moves the children of a chain and makes their ends joints again.
 //
-// Each joint is made by ConnectCurveSeg, which lets both children go to where their extensions meet, and refuses to turn
-// one round or to stretch it far. So an offset of a chain keeps the number and the order of the children.
+// Each joint is made by ConnectCurveSeg, which lets both children go to where their extensions meet, and refuses to
+// turn one round or to stretch it far. So an offset of a chain keeps the number and the order of the children.
 //
 // Why so     Offset works on the children themselves and keeps clones aside: that a joint fails is seen only after the
 //            joints before it have moved their children.

@@ -4,10 +4,10 @@
 // InterBreakCurve2d looks at every pair of members once and notes where they meet on either, then splits.
 //
 // Phases     1  Members      the planar curves of the list and their boxes, each asked for once; an index over these
-//            2  FindPairs    for each member, neighbours after neighbours, those before it whose boxes meet its own; two
-//                            segments, of which long lists mostly consist, are met at once
-//            3  CollectPas   from the last member to the first: its pairs that are left are met by IntersectWith, and the
-//                            parameters of all entered
+//            2  FindPairs    for each member, neighbours after neighbours, those before it whose boxes meet its own;
+//                            two segments, of which long lists mostly consist, are met at once
+//            3  CollectPas   from the last member to the first: its pairs that are left are met by IntersectWith, and
+//                            the parameters of all entered
 //            4  SplitAll     the parameters of each member in ascending order to its own Split
 // Why so     Curves are asked, and parameters arrive, in the order of the plain double loop: where a parameter is no
 //            number, what SortInto makes of the others depends on it. Segments meet by the operations of their

@@ -93,7 +93,8 @@ public:
     ///
     /// Ownership  The caller's.
     /// Fails      Null where nothing merges, and of an empty line.
-    /// Kept odd   A line whose ends coincide comes out closed. The result is a QnGePolyline2d only where an arc is left.
+    /// Kept odd   A line whose ends coincide comes out closed. The result is a QnGePolyline2d only where an arc is
+    ///            left.
     QnGeObject* Symplify() const override;
 
     /// Sets z of every vertex; GetElevation answers that of vertex 0, 0 when empty.

@@ -9,8 +9,8 @@
 //             //           \ .
 //         v0 .'             `. v3
 //
-// Why so     The new vertices grow in an array of their own, which is copied into the line at the very end. So a refusal
-//            leaves the line as it was.
+// Why so     The new vertices grow in an array of their own, which is copied into the line at the very end. So a
+//            refusal leaves the line as it was.
 // Tolerance  Parallel and coincident are those of QnGeBaseLine2d::IntersectWith.
 // See        docs/algorithms/offset.md
 

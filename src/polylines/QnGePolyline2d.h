@@ -112,8 +112,8 @@ public:
     QnGeMLine2d* PLinearize(double prec) const override;
     /// As the multi-line's; an arc keeps its centre and its sense of rotation, its radius and sweep follow.
     ///
-    /// Where the carriers of two segments meet twice, the corner is the meeting point nearer to where the segment behind
-    /// it starts.
+    /// Where the carriers of two segments meet twice, the corner is the meeting point nearer to where the segment
+    /// behind it starts.
     ///
     /// Fails  False if an arc would lose its radius or neighbouring carriers do not meet; false without a segment.
     bool Offset(double dist) override;

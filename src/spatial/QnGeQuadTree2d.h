@@ -21,7 +21,8 @@
 ///            alone frees one. The tree owns its nodes and lists.
 ///            Copy and assignment are shallow: both trees then share nodes, of which one may be destroyed, and the
 ///            former nodes of the target are freed by nobody.
-/// Valid      A node does not hold OneExtent beside a child. SetRange does not sort anew: set the range of an empty tree.
+/// Valid      A node does not hold OneExtent beside a child. SetRange does not sort anew: set the range of an empty
+///            tree.
 /// Cost       Insert and Delete go down one path. Long lists carry a hidden index, by which looking for hits and
 ///            deleting do not walk them.
 /// See        QnGeOctree for space, QnGePtQuadTree2d for points
@@ -53,15 +54,16 @@ public:
     /// Puts a box in.
     ///
     /// Requires  The range exceeds the box by more than g_distZero on all sides. A box outside it is kept in some list
-    ///           and found only by who asks near the range; one that touches its border can be lost when the tree grows.
+    ///           and found only by who asks near the range; one that touches its border can be lost when the tree
+    ///           grows.
     /// Order     Two boxes of one leaf go down together, the newer first, and may end in one list in that order.
     void Insert(QnGeExtent2d* box);
     /// Puts a box in; the range grows as is needed. An empty tree takes a new range, a square about the box.
     ///
     /// Order  A tree that is not square is built anew, in the order of GetAllExtent.
     void operator+=(QnGeExtent2d* box);
-    /// Takes out the very object `box`, which is freed if `deleteObject` is set. Where it is not there, a box that calls
-    /// itself the same by IsSameWith goes in its stead.
+    /// Takes out the very object `box`, which is freed if `deleteObject` is set. Where it is not there, a box that
+    /// calls itself the same by IsSameWith goes in its stead.
     ///
     /// Requires  The coordinates that `box` had when it came in.
     /// Fails     False if it is not there.

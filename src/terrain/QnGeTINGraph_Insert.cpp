@@ -6,8 +6,8 @@
 //            2  SplitTriangle    one triangle becomes three,
 //               SplitEdge        or the two beside an edge become four,
 //               Merge            or its value joins that of the node in its place.
-//            3  LOP              each new triangle is asked whether the one across edge 1 has the node in its circle; if
-//                                so the edge flips, and the two that result are asked in their turn.
+//            3  LOP              each new triangle is asked whether the one across edge 1 has the node in its circle;
+//                                if so the edge flips, and the two that result are asked in their turn.
 // Invariant  The node stands at index 0 of every triangle on the stack, so the edge that can be wrong is always edge 1.
 // Order      Of pushing and of making: both decide the order of lists, in the tree too, and with it later answers.
 // Ownership  Insert takes the node when it answers true.

@@ -3,13 +3,15 @@
 // QnGeTINGraph_InsertOutside.cpp: a node joins the network from outside its hull.
 //
 // The hull is a counter-clockwise ring of records, one per edge. The edges that face a node outside are one run of it;
-// each becomes the edge 1 of a new triangle with the node at index 0, and two new edges through the node replace the run.
+// each becomes the edge 1 of a new triangle with the node at index 0, and two new edges through the node replace the
+// run.
 //
 // Order      The walk starts at the head of the ring, and the first edge that faces the node or takes it decides. Where
-//            the ring begins is therefore part of the state, and so is where the two new records go: in place of the run.
+//            the ring begins is therefore part of the state, and so is where the two new records go: in place of the
+//            run.
 // Invariant  After each insertion the ring is closed: the next record's node is the end of the edge before it.
-// Why so     A long hull has an index that passes over edges which cannot decide (detail/HullIndex.h); the walk stays that
-//            over all edges in order.
+// Why so     A long hull has an index that passes over edges which cannot decide (detail/HullIndex.h); the walk stays
+//            that over all edges in order.
 // Ownership  As Insert: the node is the graph's on true.
 #include "terrain/QnGeTINGraph.h"
 #include "terrain/detail/HullIndex.h"

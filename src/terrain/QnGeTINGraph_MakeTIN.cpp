@@ -2,12 +2,13 @@
 //
 // QnGeTINGraph_MakeTIN.cpp: the network of all nodes of a list.
 //
-// The nodes are inserted in the breadth-first order of a point tree over them: coarse cells first, which keeps the early
-// triangles large and spread. The tree itself is never made (detail/InsertionOrder.h). A node that comes as the third
-// while all are on one line goes to the end of the queue.
+// The nodes are inserted in the breadth-first order of a point tree over them: coarse cells first, which keeps the
+// early triangles large and spread. The tree itself is never made (detail/InsertionOrder.h). A node that comes as the
+// third while all are on one line goes to the end of the queue.
 //
 // Ownership  The nodes leave NodeList and come back to it one by one as Insert takes them.
-// Fails      The queue never empties for three or more nodes that all lie on one slanted line: each in turn is sent back.
+// Fails      The queue never empties for three or more nodes that all lie on one slanted line: each in turn is sent
+//            back.
 #include "terrain/QnGeTINGraph.h"
 
 #include "terrain/detail/InsertionOrder.h"

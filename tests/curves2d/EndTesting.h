@@ -84,8 +84,8 @@ inline void ExpectConnect(const std::string& curve, const std::string& obj, bool
     ExpectConnectList(curve, obj, atStart, pickMode, wanted, expected);
 }
 
-/// A unit step along the x axis whose ends exist or not as the test likes, with an extension given as text ("" is none),
-/// and which notes what it is asked to become.
+/// A unit step along the x axis whose ends exist or not as the test likes, with an extension given as text ("" is
+/// none), and which notes what it is asked to become.
 class NotingCurve : public curve_testing::AxisCurve {
 public:
     std::string extension = "line 0,0 1,0";

@@ -201,8 +201,8 @@ struct Sheet {
 
 // Lines that share a stretch make a piece each; the table counts edges once, as the form that keeps overlaps once does.
 //
-// In the sheet of Africa a line goes on for 0.02 mm beyond another. As a parameter of the whole line that is nearer to its
-// end than g_fZero: no piece of that length.
+// In the sheet of Africa a line goes on for 0.02 mm beyond another. As a parameter of the whole line that is nearer to
+// its end than g_fZero: no piece of that length.
 const Sheet SHEETS[] = {{"africa_borders_coast", 2167, 26834, 1, 1},
                         {"roads_mackay", 633, 2263, 0, 0},
                         {"roads_north", 2221, 29044, 0, 0},

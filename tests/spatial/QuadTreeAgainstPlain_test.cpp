@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Random histories on the quad tree and on its plain form at once: the same nodes, the same lists in the same order, the
-// same answers in the same order.
+// Random histories on the quad tree and on its plain form at once: the same nodes, the same lists in the same order,
+// the same answers in the same order.
 #include <gtest/gtest.h>
 
 #include <memory>

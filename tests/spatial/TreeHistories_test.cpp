@@ -21,8 +21,9 @@ namespace {
 
 constexpr int HISTORIES = 10000;
 
-/// Of coordinates near the tolerance apart. A tree that grows may have a border just beyond the tolerance from a box, and
-/// rounding brings it within when it becomes a centre line; hence no step of which the tolerance is a multiple there.
+/// Of coordinates near the tolerance apart. A tree that grows may have a border just beyond the tolerance from a box,
+/// and rounding brings it within when it becomes a centre line; hence no step of which the tolerance is a multiple
+/// there.
 constexpr double FINE_STEP = 5e-7;
 constexpr double FINE_STEP_OF_GROWING = 3.7e-7;
 

@@ -188,7 +188,8 @@ inline std::string CheckHull(const OpenTin& graph, const std::unordered_map<cons
 
 }  // namespace tin_checks
 
-/// Whether a network is whole: links, hull ring, tree, orientation, empty circles, Euler's formula. "" or what is wrong.
+/// Whether a network is whole: links, hull ring, tree, orientation, empty circles, Euler's formula. "" or what is
+/// wrong.
 ///
 /// Cost  Linear but for the tree.
 inline std::string CheckTin(const OpenTin& graph, const TinRules& rules = TinRules()) {

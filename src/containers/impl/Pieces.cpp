@@ -3,10 +3,10 @@
 // Pieces.cpp: free lists of small objects that are made and deleted by the million, one by one.
 //
 // Nodes of lists and trees and the triangles of a network come and go singly. A piece that comes back is pushed on the
-// free list of its size and is the next to be taken, most likely still in the cache; where the list is empty, pieces are
-// cut off a slab one after the other, so that what is made together lies together. When the last piece of a size is back,
-// its slabs are cut anew from the first on: a list of pieces in the order in which a large structure was deleted would
-// scatter the next one all over them.
+// free list of its size and is the next to be taken, most likely still in the cache; where the list is empty, pieces
+// are cut off a slab one after the other, so that what is made together lies together. When the last piece of a size is
+// back, its slabs are cut anew from the first on: a list of pieces in the order in which a large structure was deleted
+// would scatter the next one all over them.
 //
 // Invariant  A piece is a multiple of GRAIN long and lies at a multiple of the largest power of two up to 16 that
 //            divides its length.

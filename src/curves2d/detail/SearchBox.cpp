@@ -86,8 +86,8 @@ bool IsWithinReach(const PlanBox& box) {
     return box.xMin > -QN_FAR_LIMIT && box.xMax < QN_FAR_LIMIT && box.yMin > -QN_FAR_LIMIT && box.yMax < QN_FAR_LIMIT;
 }
 
-// Boxes count as apart by more than the share of the hull of both. Of a hull whose boxes are apart the gaps, in x and in
-// y, are a part: so the share of the sizes alone is share / (1 - 2 share), and from half on nothing is ever apart.
+// Boxes count as apart by more than the share of the hull of both. Of a hull whose boxes are apart the gaps, in x and
+// in y, are a part: so the share of the sizes alone is share / (1 - 2 share), and from half on nothing is ever apart.
 PlanBox MakePrimitiveBox(const QnGeCurve2d& curve) {
     constexpr double GAP_SHARE = 5.0;  // each of a pair brings half of the gap
     constexpr double LARGEST_SHARE = 0.4;

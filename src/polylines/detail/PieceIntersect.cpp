@@ -2,8 +2,8 @@
 // PieceIntersect.cpp: two curves of many pieces each intersected by the pairs of pieces that come near each other.
 //
 // The plain rule is one line: each part intersects with the other object. Between two compound curves it unfolds by
-// itself to all pairs of their smallest pieces: a piece of the first hands the pair over to the second, whose pieces are
-// asked one after the other.
+// itself to all pairs of their smallest pieces: a piece of the first hands the pair over to the second, whose pieces
+// are asked one after the other.
 //
 // Phases     1  IsWorthIt    from so many pairs on an index costs less than they do.
 //            2  PieceTable   the smallest pieces of the second curve in order, and their boxes.

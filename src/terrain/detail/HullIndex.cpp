@@ -3,8 +3,8 @@
 // HullIndex.cpp: which edges of a long hull can face a node, or take it.
 //
 // A walk over the hull asks each edge a b for v, the signed area of a b p by the length of a b. Beyond the tolerance to
-// the right the edge faces p; within it p lies on the line of the edge, and on the edge itself if it is also between its
-// ends. v is linear in p:
+// the right the edge faces p; within it p lies on the line of the edge, and on the edge itself if it is also between
+// its ends. v is linear in p:
 //
 //      v(p) = u (p - r) + v(r)         u = (yb - ya, xa - xb) / 2 / length, r any point
 //

@@ -50,8 +50,8 @@ public:
 
     long GetCount() const { return m_count; }
 
-    /// Replaces `found` by the indexes from `first` to before `end` whose box meets `query`: 0 and i for those before i,
-    /// i + 1 and GetCount() for those after it.
+    /// Replaces `found` by the indexes from `first` to before `end` whose box meets `query`: 0 and i for those before
+    /// i, i + 1 and GetCount() for those after it.
     void Find(const PlanBox& query, long first, long end, PodArray<std::int32_t>& found) const;
 
     /// Replaces `indexes` by all of them in an order in which neighbours lie close together: who asks for every box in

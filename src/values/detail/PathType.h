@@ -12,8 +12,8 @@ namespace qn_detail {
 /// GetPathType, for inner loops.
 ///
 /// Why so  The stated test is area / leg against the tolerance. The quotient matters only where the area is within
-///         rounding of tolerance times leg, so elsewhere a product decides. Without a leg nothing does, and the quotient
-///         of nothing by nothing passes neither test.
+///         rounding of tolerance times leg, so elsewhere a product decides. Without a leg nothing does, and the
+///         quotient of nothing by nothing passes neither test.
 inline int PathTypeOf(const QnGePoint& a, const QnGePoint& b, const QnGePoint& c) {
     constexpr double SURE = 1.0 + 1e-13;
     const double area = ((c.x - a.x) * (b.y - c.y) - (c.y - a.y) * (b.x - c.x)) / 2.0;

@@ -22,7 +22,8 @@ inline bool IsCompound(const QnGeObject& object) {
            object.GetClassID() == CLASS_ID_MCURVE2D;
 }
 
-/// IntersectWith: each part by itself; a part that is no compound hands over to one, a reversed ray as its forward copy.
+/// IntersectWith: each part by itself; a part that is no compound hands over to one, a reversed ray as its forward
+/// copy.
 inline void Intersect(const QnGeObject& object, const QnGeObject& other, QnGeObjList& found) {
     if (IsCompound(object)) {
         QnGeObjList parts;
