@@ -4,7 +4,7 @@
 //
 //      +----+----+----+----+     Four cells of a ring, each with its quarters. What touches the tree's border stays
 //      | 1  . 0  | 1  . 0  |     near: of a corner three quarters, of a side two. The others are far. A corner's
-//      outer |....2....|....1....|     quarter is a corner again, its two neighbours are sides.
+//      |....2....|....1....|     outer quarter is a corner again, its two neighbours are sides.
 //      | 2  . 3  | 2  . 3  |
 //      +----+----+----+----+     The table says for each direction, in order, which children go where and as what.
 #include "spatial/QnGePointQuadTreeLayer2d.h"
