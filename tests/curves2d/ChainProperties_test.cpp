@@ -366,7 +366,8 @@ TEST(ChainProperties, CompressAndSymplifyKeepTheShape) {
         const auto* const curve = dynamic_cast<const QnGeCurve2d*>(simpler.get());
         ASSERT_NE(curve, nullptr) << Where(i, chain);
         ASSERT_NEAR(curve->Length(), chain.Length(), 1e-6) << Where(i, chain);
-        ASSERT_NEAR(curve->TotalIntegration(), chain.TotalIntegration(), 1e-5) << Where(i, chain);
+        // As a polyline an arc within g_angleZero of a half circle is centred on its chord.
+        ASSERT_NEAR(curve->TotalIntegration(), chain.TotalIntegration(), 50.0 * EndSlack(chain)) << Where(i, chain);
     }
     EXPECT_GT(merged, PROPERTY_CASES / 2);
 }
