@@ -44,7 +44,7 @@ void GivePiece(void* piece, std::size_t bytes) noexcept {
 namespace {
 
 constexpr std::size_t GRAIN = 8;
-constexpr std::size_t MOST_BYTES = 2304;  ///< larger objects come from the heap
+constexpr std::size_t MOST_BYTES = 512;  ///< larger objects come from the heap, which can make them of others
 constexpr std::size_t FIRST_SLAB = 4096;
 constexpr std::size_t LARGEST_SLAB = std::size_t{1} << 18;
 constexpr std::size_t SLAB_ALIGNMENT = 16;

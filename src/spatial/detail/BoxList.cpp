@@ -10,10 +10,9 @@
 // A search reads the boxes on the grid, then the nodes of those it meets. Most of them are surely met by what the grid
 // says; only for the others the boxes themselves are read. A long list has a BoxOrder and its nodes singly.
 //
-// States     in a row   m_row, for up to MOST_IN_ROW boxes
-//            ordered    m_order, for more
-//            loose      neither: what every other list is, and one of fewer than FEWEST_IN_ROW boxes, which would waste
-//                       most of a group
+// States     in a row   for up to MOST_IN_ROW boxes
+//            ordered    for more
+//            loose      what every other list is, and one of fewer than FEWEST_IN_ROW boxes, which saves memory
 // Phases     An insertion of the tree arranges a loose list; a search leaves the nodes where they are, for a caller may
 //            be going through them. What a caller does to the list by its public
 //            operations loosens it first, so that nodes are single objects when they are passed on or deleted.
@@ -30,13 +29,41 @@
 namespace qn_detail {
 
 BoxList::~BoxList() {
-    if (m_row != nullptr) {
+    DropOrder();
+    if (IsInRow()) {
         FreeRow();
         m_pHead->next = m_pHead->previous = m_pHead;  // no node is left to the destructor of lists
     }
 }
 
 // ---- the row ---------------------------------------------------------------------------------------
+
+/// How many places a row of so many boxes gets, with some to spare.
+int BoxList::SpaceFor(long length) {
+    constexpr long SPARE = 8;  // one place for so many boxes
+    constexpr long SHORT = 16;
+    const long step = length <= SHORT ? 2 : GridQuad::COUNT;
+    return static_cast<int>((length + length / SPARE + step - 1) / step * step);
+}
+
+std::size_t BoxList::BytesOf(int space) {
+    const auto groups = static_cast<std::size_t>(space / GridQuad::COUNT);
+    const auto rest = static_cast<std::size_t>(space % GridQuad::COUNT);
+    return groups * sizeof(Group) + (rest > 0 ? sizeof(GridQuad) + rest * sizeof(BoxNode) : 0);
+}
+
+/// A row of empty places.
+BoxList::Group* BoxList::MakeRow(int space) {
+    auto* const row = static_cast<Group*>(TakePiece(BytesOf(space)));
+    for (int place = 0; place < space; ++place) {
+        Group& group = row[place / GridQuad::COUNT];
+        if (place % GridQuad::COUNT == 0) {
+            group.quad.Clear();
+        }
+        ::new (static_cast<void*>(&group.nodes[place % GridQuad::COUNT])) BoxNode;
+    }
+    return row;
+}
 
 int BoxList::PlaceOf(const BoxNode* node) const {
     const std::ptrdiff_t offset = reinterpret_cast<const char*>(node) - reinterpret_cast<const char*>(m_row);
@@ -58,23 +85,13 @@ void BoxList::PutInRow(int place, const GridBox& box, BoxNode* node) {
     m_pCurrent = m_pCurrent == node ? moved : m_pCurrent;
 }
 
-/// How many groups a row of so many boxes takes, with some places to spare.
-int BoxList::GroupsFor(long length) {
-    constexpr long SPARE = 6;  // one place for so many boxes
-    return static_cast<int>((length + length / SPARE + GridQuad::COUNT - 1) / GridQuad::COUNT);
-}
-
-/// Moves all nodes, in their order, to a new row of so many groups.
-void BoxList::MoveRow(int groupNum) {
+/// Moves all nodes, in their order, to a new row.
+void BoxList::MoveRow(int space) {
     Group* const formerRow = m_row;
-    const int formerNum = m_groupNum;
+    const int formerSpace = m_space;
     const int formerEnd = m_end;
-    m_row = static_cast<Group*>(TakePiece(static_cast<std::size_t>(groupNum) * sizeof(Group)));
-    for (int group = 0; group < groupNum; ++group) {
-        ::new (static_cast<void*>(m_row + group)) Group;
-        m_row[group].quad.Clear();
-    }
-    m_groupNum = static_cast<short>(groupNum);
+    m_row = MakeRow(space);
+    m_space = static_cast<short>(space);
     m_end = 0;
     for (int place = 0; place < formerEnd; ++place) {
         Group& from = formerRow[place / GridQuad::COUNT];
@@ -85,23 +102,24 @@ void BoxList::MoveRow(int groupNum) {
     }
     m_pTail = m_pHead->previous;
     DropHint();
-    GivePiece(formerRow, static_cast<std::size_t>(formerNum) * sizeof(Group));
+    GivePiece(formerRow, BytesOf(formerSpace));
 }
 
 void BoxList::FreeRow() {
-    GivePiece(m_row, static_cast<std::size_t>(m_groupNum) * sizeof(Group));
+    GivePiece(m_row, BytesOf(m_space));
     m_row = nullptr;
-    m_groupNum = m_end = 0;
+    m_space = m_end = 0;
 }
 
 /// The first node with this very box, if the box has the coordinates with which it came.
 BoxNode* BoxList::FindInRow(const Box* box) const {
-    const GridBox gridBox = m_grid.BoxOf(*box);
-    for (int group = 0; group < m_groupNum; ++group) {
-        for (unsigned equal = m_row[group].quad.GetEqual(gridBox); equal != 0;) {
-            BoxNode* const node = &m_row[group].nodes[TakeLowestLane(equal)];
-            if (node->data == box) {
-                return node;
+    const GridBox gridBox = BoxOf(*box);
+    for (int first = 0; first < m_end; first += GridQuad::COUNT) {
+        Group& group = m_row[first / GridQuad::COUNT];
+        for (unsigned equal = group.quad.GetEqual(gridBox); equal != 0;) {
+            const int lane = TakeLowestLane(equal);
+            if (first + lane < m_end && group.nodes[lane].data == box) {
+                return &group.nodes[lane];
             }
         }
     }
@@ -110,6 +128,7 @@ BoxNode* BoxList::FindInRow(const Box* box) const {
 
 /// Gives up the place of a node that is no more in the list.
 void BoxList::LeavePlace(const BoxNode* node) {
+    constexpr int SPARED = 6;  // a row moves to spare one place of so many
     const int place = PlaceOf(node);
     m_row[place / GridQuad::COUNT].quad.SetBox(place % GridQuad::COUNT, GridBox::Empty());
     NodeInRow(place)->data = nullptr;
@@ -118,8 +137,8 @@ void BoxList::LeavePlace(const BoxNode* node) {
     }
     if (m_nLength + 1 < FEWEST_IN_ROW) {
         Loosen();
-    } else if (2 * GroupsFor(m_nLength) < m_groupNum) {
-        MoveRow(GroupsFor(m_nLength));
+    } else if (SPARED * SpaceFor(m_nLength) < m_space * (SPARED - 1)) {
+        MoveRow(SpaceFor(m_nLength));
     }
 }
 
@@ -127,31 +146,43 @@ void BoxList::LeavePlace(const BoxNode* node) {
 
 /// Puts a loose list in a row or in order.
 void BoxList::Arrange(const Box& range) {
-    if (m_row != nullptr || m_order != nullptr || m_nLength < FEWEST_IN_ROW) {
+    if (IsInRow() || IsOrdered() || m_nLength < FEWEST_IN_ROW) {
         return;
     }
     if (m_nLength > MOST_IN_ROW) {
-        m_order = std::make_unique<BoxOrder>(range);
+        m_order = new BoxOrder(range);
+        m_space = IS_ORDERED;
         for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
             m_order->Add(node);
         }
         return;
     }
-    m_grid = Grid(range);
-    MoveRow(GroupsFor(m_nLength));
+    static_cast<Grid&>(*this) = Grid(range);
+    const int space = SpaceFor(m_nLength);
+    m_row = MakeRow(space);
+    m_space = static_cast<short>(space);
     for (BoxNode* node = Next(m_pHead); node != m_pHead;) {
         BoxNode* const following = Next(node);
-        PutInRow(m_end++, m_grid.BoxOf(*node->data), node);
+        PutInRow(m_end++, BoxOf(*node->data), node);
         delete node;
         node = following;
     }
     m_pTail = m_pHead->previous;
+    DropHint();
+}
+
+void BoxList::DropOrder() {
+    if (IsOrdered()) {
+        delete m_order;
+        m_row = nullptr;
+        m_space = 0;
+    }
 }
 
 /// Makes all nodes single objects.
 void BoxList::Loosen() {
-    m_order.reset();
-    if (m_row == nullptr) {
+    DropOrder();
+    if (!IsInRow()) {
         return;
     }
     for (int place = 0; place < m_end; ++place) {
@@ -174,7 +205,7 @@ void BoxList::Add(Box* box, const Box& range) {
     ReadAhead(m_pHead);
     ReadAhead(m_pTail);
     Arrange(range);
-    if (m_row != nullptr && m_nLength < MOST_IN_ROW) {
+    if (IsInRow() && m_nLength < MOST_IN_ROW) {
         AddToRow(box);
     } else {
         AddSingly(box, range);
@@ -182,24 +213,24 @@ void BoxList::Add(Box* box, const Box& range) {
 }
 
 void BoxList::AddToRow(Box* box) {
-    if (m_end == GetSpace()) {
-        MoveRow(GroupsFor(m_nLength + 1));
+    if (m_end == m_space) {
+        MoveRow(SpaceFor(m_nLength + 1));
     }
     BoxNode* const node = NodeInRow(m_end);
-    m_row[m_end / GridQuad::COUNT].quad.SetBox(m_end % GridQuad::COUNT, m_grid.BoxOf(*box));
+    m_row[m_end / GridQuad::COUNT].quad.SetBox(m_end % GridQuad::COUNT, BoxOf(*box));
     node->data = box;
     ++m_end;
     LinkAtEnd(node);
 }
 
 void BoxList::AddSingly(Box* box, const Box& range) {
-    if (m_row != nullptr) {
+    if (IsInRow()) {
         Loosen();
     }
     auto* const node = new BoxNode(box);
     LinkAtEnd(node);
-    if (m_order != nullptr && !m_order->Add(node)) {
-        m_order.reset();
+    if (IsOrdered() && !m_order->Add(node)) {
+        DropOrder();
     }
     Arrange(range);
 }
@@ -213,9 +244,9 @@ void BoxList::LinkAtEnd(BoxNode* node) {
 
 QnGeExtent2d* BoxList::Take(const Box* box) {
     BoxNode* node = nullptr;
-    if (m_row != nullptr) {
+    if (IsInRow()) {
         node = FindInRow(box);
-    } else if (m_order != nullptr) {
+    } else if (IsOrdered()) {
         node = m_order->Take(box);
     }
     if (node == nullptr) {
@@ -223,19 +254,19 @@ QnGeExtent2d* BoxList::Take(const Box* box) {
         if (node == nullptr) {
             return nullptr;
         }
-        m_order.reset();  // it holds the node at other coordinates
+        DropOrder();  // it holds the node at other coordinates
     }
     Box* const taken = node->data;
     --m_nLength;
     GoOut();
     DropHint();
     Unlink(node);
-    if (m_row != nullptr) {
+    if (IsInRow()) {
         LeavePlace(node);
     } else {
         delete node;
         if (m_nLength < FEWEST_IN_ORDER) {
-            m_order.reset();
+            DropOrder();
         }
     }
     m_pTail = m_pHead->previous;
@@ -265,7 +296,7 @@ void BoxList::FindInRow(const Box& box, IsHit isHit, QnDynArrayBase<Box*>& resul
     };
     Met met[MOST_IN_ROW];
     int count = 0;
-    const GridSearch search = m_grid.SearchFor(box);
+    const GridSearch search = SearchFor(box);
     for (int group = 0; group * GridQuad::COUNT < m_end; ++group) {
         const GridQuad& quad = m_row[group].quad;
         unsigned meeting = quad.GetMeeting(search.wide);
@@ -296,9 +327,9 @@ void BoxList::FindLoose(IsHit isHit, QnDynArrayBase<Box*>& result) const {
 }
 
 void BoxList::Find(double x, double y, QnDynArrayBase<Box*>& result) const {
-    if (m_order != nullptr) {
+    if (IsOrdered()) {
         m_order->Find(x, y, result);
-    } else if (m_row == nullptr) {
+    } else if (!IsInRow()) {
         FindLoose(HoldsPoint{x, y}, result);
     } else {
         FindInRow(QnGeExtent2d(x, x, y, y), HoldsPoint{x, y}, result);
@@ -306,9 +337,9 @@ void BoxList::Find(double x, double y, QnDynArrayBase<Box*>& result) const {
 }
 
 void BoxList::Find(const Box& box, QnDynArrayBase<Box*>& result) const {
-    if (m_order != nullptr) {
+    if (IsOrdered()) {
         m_order->Find(box, result);
-    } else if (m_row == nullptr) {
+    } else if (!IsInRow()) {
         FindLoose(MeetsBox{box}, result);
     } else {
         FindInRow(box, MeetsBox{box}, result);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <memory>
+#include <cstddef>
 #include <typeinfo>
 
 #include "containers/QnList.h"
@@ -16,12 +16,12 @@ namespace qn_detail {
 /// without going from node to node and from there to boxes all over the memory.
 ///
 /// See  BoxList.cpp for how it is kept
-class BoxList final : public QnList<QnGeExtent2d*> {
+class BoxList final : public QnList<QnGeExtent2d*>, private Grid {
     using Base = QnList<QnGeExtent2d*>;
     using Box = QnGeExtent2d;
 
 public:
-    BoxList() = default;
+    BoxList() : m_row(nullptr) {}
     ~BoxList() override;
     BoxList(const BoxList&) = delete;
     BoxList& operator=(const BoxList&) = delete;
@@ -44,7 +44,7 @@ public:
     /// Asks for the first places of a row.
     void ReadRowAhead() const {
         constexpr int ENOUGH = 4;
-        for (int group = 0; group < m_groupNum && group < ENOUGH; ++group) {
+        for (int group = 0; group * GridQuad::COUNT < m_end && group < ENOUGH; ++group) {
             ReadAhead(m_row + group);
         }
     }
@@ -79,22 +79,27 @@ public:
     using Base::operator[];
 
 private:
-    static constexpr int MOST_IN_ROW = 64;      ///< a longer list is ordered
-    static constexpr int FEWEST_IN_ROW = 5;     ///< a shorter one stays loose
-    static constexpr int FEWEST_IN_ORDER = 32;  ///< a shorter one goes back into a row
+    static constexpr int MOST_IN_ROW = 96;      ///< a longer list is ordered
+    static constexpr int FEWEST_IN_ROW = 9;     ///< a shorter one stays loose
+    static constexpr int FEWEST_IN_ORDER = 48;  ///< a shorter one goes back into a row
 
-    /// Four places of a row: boxes on the grid, and the list nodes themselves.
+    /// Four places of a row: boxes on the grid, and the list nodes themselves. The last group of a row may end early.
     struct Group {
         GridQuad quad;
         BoxNode nodes[GridQuad::COUNT];  ///< without a box where the place is empty
     };
 
-    int GetSpace() const { return m_groupNum * GridQuad::COUNT; }
-    static int GroupsFor(long length);
+    static constexpr short IS_ORDERED = -1;
+    bool IsInRow() const { return m_space > 0; }
+    bool IsOrdered() const { return m_space == IS_ORDERED; }
+
+    static int SpaceFor(long length);
+    static std::size_t BytesOf(int space);
+    static Group* MakeRow(int space);
     int PlaceOf(const BoxNode* node) const;
     BoxNode* NodeInRow(int place) const;
     void PutInRow(int place, const GridBox& box, BoxNode* node);
-    void MoveRow(int groupNum);
+    void MoveRow(int space);
     void FreeRow();
     BoxNode* FindInRow(const Box* box) const;
     template <class IsHit>
@@ -105,16 +110,20 @@ private:
 
     void Arrange(const Box& range);
     void Loosen();
+    void DropOrder();
     void AddToRow(Box* box);
     void AddSingly(Box* box, const Box& range);
     void LinkAtEnd(BoxNode* node);
     BoxNode* FindAnywhere(const Box* box) const;
 
-    std::unique_ptr<BoxOrder> m_order;  ///< of a long list
-    Group* m_row = nullptr;             ///< of any other
-    Grid m_grid;                        ///< of the row
-    short m_groupNum = 0;
-    short m_end = 0;  ///< behind the last place in use
+    // The grid is that of the row, and a base so that these two take what it leaves of its last eight bytes: lists come
+    // by the hundred thousand.
+    short m_space = 0;  ///< places of the row, 0 if there is none; or IS_ORDERED
+    short m_end = 0;    ///< behind the last place in use
+    union {
+        Group* m_row;
+        BoxOrder* m_order;
+    };
 };
 
 }  // namespace qn_detail

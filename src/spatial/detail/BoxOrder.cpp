@@ -38,8 +38,8 @@ namespace {
 constexpr int QUADS = 4;
 constexpr int SPACE = QUADS * GridQuad::COUNT;  ///< entries of a block
 constexpr int HALF = SPACE / 2;
-constexpr int FEW = SPACE / 4;               ///< a block with no more joins another
-constexpr int FEW_TOGETHER = 3 * SPACE / 4;  ///< if the two have no more together
+constexpr int FEW = HALF - 1;            ///< a block with no more joins another
+constexpr int FEW_TOGETHER = SPACE - 3;  ///< if the two have no more together
 
 /// How far the middle of the grid lies from a range.
 int GapToMiddle(int low, int high) {

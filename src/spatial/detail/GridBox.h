@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 
 #include "values/QnGeExtent2d.h"
 
@@ -72,27 +73,39 @@ public:
     }
 
 private:
+    static constexpr int HALF_BITS = 16;
+
     static bool IsBox(const QnGeExtent2d& box) {
         return !std::isnan(box.x.min) && !std::isnan(box.x.max) && !std::isnan(box.y.min) && !std::isnan(box.y.max);
     }
     static double OriginOf(const QnGeExtent& range) {
         return std::isfinite(range.GetCenter()) ? range.GetCenter() : 0.0;
     }
-    static float ScaleOf(const QnGeExtent& range) {
-        const auto scale = static_cast<float>(2.0 * GridBox::FARTHEST / range.GetLength());
-        return std::isnormal(scale) && scale > 0.0F ? scale : 1.0F;
+    /// The upper half of a float's bits: how many numbers a unit gets matters little, that it stays the same matters.
+    static std::uint16_t ScaleOf(const QnGeExtent& range) {
+        auto scale = static_cast<float>(2.0 * GridBox::FARTHEST / range.GetLength());
+        scale = std::isnormal(scale) && scale > 0.0F ? scale : 1.0F;
+        std::uint32_t bits = 0;
+        std::memcpy(&bits, &scale, sizeof bits);
+        return static_cast<std::uint16_t>(bits >> HALF_BITS);
+    }
+    static double Scale(std::uint16_t upperHalf) {
+        const std::uint32_t bits = static_cast<std::uint32_t>(upperHalf) << HALF_BITS;
+        float scale = 0.0F;
+        std::memcpy(&scale, &bits, sizeof scale);
+        return static_cast<double>(scale);
     }
     static std::int16_t NumberOf(double v) {
         constexpr double MOST = GridBox::FARTHEST;
         const double notAbove = v < MOST ? v : MOST;
         return static_cast<std::int16_t>(notAbove > -MOST ? notAbove : -MOST);
     }
-    double X(double x) const { return (x - m_originX) * static_cast<double>(m_scaleX); }
-    double Y(double y) const { return (y - m_originY) * static_cast<double>(m_scaleY); }
+    double X(double x) const { return (x - m_originX) * Scale(m_scaleX); }
+    double Y(double y) const { return (y - m_originY) * Scale(m_scaleY); }
 
     /// Twice the tolerance, and what rounding may take away.
-    double MarginX(double x) const { return Margin(x, m_originX) * static_cast<double>(m_scaleX); }
-    double MarginY(double y) const { return Margin(y, m_originY) * static_cast<double>(m_scaleY); }
+    double MarginX(double x) const { return Margin(x, m_originX) * Scale(m_scaleX); }
+    double MarginY(double y) const { return Margin(y, m_originY) * Scale(m_scaleY); }
     static double Margin(double v, double origin) {
         constexpr double ROUNDING = 1e-15;
         return 2.0 * std::fabs(g_distZero) + ROUNDING * (std::fabs(v) + std::fabs(origin));
@@ -100,8 +113,8 @@ private:
 
     double m_originX;
     double m_originY;
-    float m_scaleX;
-    float m_scaleY;
+    std::uint16_t m_scaleX;
+    std::uint16_t m_scaleY;
 };
 
 /// Four boxes of a grid side by side.
