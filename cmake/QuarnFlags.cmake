@@ -14,6 +14,8 @@ target_compile_options(
             $<$<CXX_COMPILER_ID:GNU>:-Wsuggest-override>
             $<$<CXX_COMPILER_ID:Clang>:-Wsuggest-override>
             $<$<BOOL:${QUARN_WARNINGS_AS_ERRORS}>:-Werror>
+            # Calls within a library go straight to their target, as they do with Clang.
+            $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>
             # The same bits on every machine: no contraction into fused operations, and never any fast-math.
             -ffp-contract=off)
 
