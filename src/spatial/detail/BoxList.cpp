@@ -317,11 +317,27 @@ void BoxList::FindInRow(const Box& box, IsHit isHit, QnDynArrayBase<Box*>& resul
     }
 }
 
+/// A short list is gone through from its tail, which is at hand, to ask for its boxes before they are looked at.
 template <class IsHit>
 void BoxList::FindLoose(IsHit isHit, QnDynArrayBase<Box*>& result) const {
-    for (const BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
-        if (isHit(*node->data)) {
-            result.Append(node->data);
+    if (m_nLength >= FEWEST_IN_ROW) {
+        for (const BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
+            if (isHit(*node->data)) {
+                result.Append(node->data);
+            }
+        }
+        return;
+    }
+    Box* boxes[FEWEST_IN_ROW];
+    const BoxNode* node = m_pTail;
+    for (long i = m_nLength - 1; i >= 0; --i) {
+        boxes[i] = node->data;
+        ReadAhead(boxes[i]);
+        node = node->previous;
+    }
+    for (long i = 0; i < m_nLength; ++i) {
+        if (isHit(*boxes[i])) {
+            result.Append(boxes[i]);
         }
     }
 }

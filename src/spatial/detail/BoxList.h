@@ -41,11 +41,14 @@ public:
     void Find(double x, double y, QnDynArrayBase<Box*>& result) const;
     void Find(const Box& box, QnDynArrayBase<Box*>& result) const;
 
-    /// Asks for the first places of a row.
-    void ReadRowAhead() const {
+    /// Asks for what a search will read first.
+    void ReadNodesAhead() const {
         constexpr int ENOUGH = 4;
         for (int group = 0; group * GridQuad::COUNT < m_end && group < ENOUGH; ++group) {
             ReadAhead(m_row + group);
+        }
+        if (m_space == 0) {
+            ReadAhead(m_pTail);
         }
     }
 

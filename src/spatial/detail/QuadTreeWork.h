@@ -35,7 +35,7 @@ struct OrderedBoxLists {
     static void ReadAhead(const Tree& node) {
         const BoxList* const list = BoxList::From(node.ExtentList);
         if (list != nullptr) {
-            list->ReadRowAhead();
+            list->ReadNodesAhead();
         }
     }
 
