@@ -111,13 +111,15 @@ void QnGeOctree::InsertChild(QnGeOctree* subtree) {
 }
 
 void QnGeOctree::HitTest(double px, double py, double pz, QnDynArrayBase<QnGeExtent3d*>& result) const {
-    Work::HitPoint(*this, QnGePoint(px, py, pz), result);
+    qn_detail::SearchInto(result, [&](qn_detail::BoxResult<QnGeExtent3d>& found) {
+        Work::HitPoint(*this, QnGePoint(px, py, pz), found);
+    });
 }
 
 void QnGeOctree::HitTest(const QnGeExtent3d& box, QnDynArrayBase<QnGeExtent3d*>& result) const {
-    Work::HitBox(*this, box, result);
+    qn_detail::SearchInto(result, [&](qn_detail::BoxResult<QnGeExtent3d>& found) { Work::HitBox(*this, box, found); });
 }
 
 void QnGeOctree::GetAllExtent(QnDynArrayBase<QnGeExtent3d*>& result) const {
-    Work::GetAllExtent(*this, result);
+    qn_detail::SearchInto(result, [&](qn_detail::BoxResult<QnGeExtent3d>& found) { Work::GetAllExtent(*this, found); });
 }

@@ -95,13 +95,14 @@ void QnGeQuadTree2d::InsertChild(QnGeQuadTree2d* subtree) {
 }
 
 void QnGeQuadTree2d::HitTest(double px, double py, QnDynArrayBase<QnGeExtent2d*>& result) const {
-    Work::HitPoint(*this, QnGePoint(px, py), result);
+    qn_detail::SearchInto(
+        result, [&](qn_detail::BoxResult<QnGeExtent2d>& found) { Work::HitPoint(*this, QnGePoint(px, py), found); });
 }
 
 void QnGeQuadTree2d::HitTest(const QnGeExtent2d& box, QnDynArrayBase<QnGeExtent2d*>& result) const {
-    Work::HitBox(*this, box, result);
+    qn_detail::SearchInto(result, [&](qn_detail::BoxResult<QnGeExtent2d>& found) { Work::HitBox(*this, box, found); });
 }
 
 void QnGeQuadTree2d::GetAllExtent(QnDynArrayBase<QnGeExtent2d*>& result) const {
-    Work::GetAllExtent(*this, result);
+    qn_detail::SearchInto(result, [&](qn_detail::BoxResult<QnGeExtent2d>& found) { Work::GetAllExtent(*this, found); });
 }

@@ -289,7 +289,7 @@ BoxNode* BoxList::FindAnywhere(const Box* box) const {
 }
 
 template <class IsHit>
-void BoxList::FindInRow(const Box& box, IsHit isHit, QnDynArrayBase<Box*>& result) const {
+void BoxList::FindInRow(const Box& box, IsHit isHit, BoxResult<Box>& result) const {
     struct Met {
         Box* box;
         bool isSure;
@@ -312,18 +312,18 @@ void BoxList::FindInRow(const Box& box, IsHit isHit, QnDynArrayBase<Box*>& resul
     }
     for (int i = 0; i < count; ++i) {
         if (met[i].isSure || isHit(*met[i].box)) {
-            result.Append(met[i].box);
+            AppendTo(result, met[i].box);
         }
     }
 }
 
 /// A short list is gone through from its tail, which is at hand, to ask for its boxes before they are looked at.
 template <class IsHit>
-void BoxList::FindLoose(IsHit isHit, QnDynArrayBase<Box*>& result) const {
+void BoxList::FindLoose(IsHit isHit, BoxResult<Box>& result) const {
     if (m_nLength >= FEWEST_IN_ROW) {
         for (const BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
             if (isHit(*node->data)) {
-                result.Append(node->data);
+                AppendTo(result, node->data);
             }
         }
         return;
@@ -337,12 +337,12 @@ void BoxList::FindLoose(IsHit isHit, QnDynArrayBase<Box*>& result) const {
     }
     for (long i = 0; i < m_nLength; ++i) {
         if (isHit(*boxes[i])) {
-            result.Append(boxes[i]);
+            AppendTo(result, boxes[i]);
         }
     }
 }
 
-void BoxList::Find(double x, double y, QnDynArrayBase<Box*>& result) const {
+void BoxList::Find(double x, double y, BoxResult<Box>& result) const {
     if (IsOrdered()) {
         m_order->Find(x, y, result);
     } else if (!IsInRow()) {
@@ -352,7 +352,7 @@ void BoxList::Find(double x, double y, QnDynArrayBase<Box*>& result) const {
     }
 }
 
-void BoxList::Find(const Box& box, QnDynArrayBase<Box*>& result) const {
+void BoxList::Find(const Box& box, BoxResult<Box>& result) const {
     if (IsOrdered()) {
         m_order->Find(box, result);
     } else if (!IsInRow()) {

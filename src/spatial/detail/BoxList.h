@@ -6,14 +6,15 @@
 
 #include "containers/QnList.h"
 #include "spatial/detail/BoxOrder.h"
+#include "spatial/detail/BoxResult.h"
 #include "spatial/detail/GridBox.h"
 #include "spatial/detail/ReadAhead.h"
 #include "values/QnGeExtent2d.h"
 
 namespace qn_detail {
 
-/// The list that a quad tree makes for a tree node's boxes: a plain list to everyone else, in which the tree finds boxes
-/// without going from node to node and from there to boxes all over the memory.
+/// The list that a quad tree makes for a tree node's boxes: a plain list to everyone else, in which the tree finds
+/// boxes without going from node to node and from there to boxes all over the memory.
 ///
 /// See  BoxList.cpp for how it is kept
 class BoxList final : public QnList<QnGeExtent2d*>, private Grid {
@@ -38,8 +39,8 @@ public:
     /// Takes the element out that is the same as `box` and answers it; null if there is none.
     Box* Take(const Box* box);
     /// Appends the boxes that hold a point, or meet a box, in order.
-    void Find(double x, double y, QnDynArrayBase<Box*>& result) const;
-    void Find(const Box& box, QnDynArrayBase<Box*>& result) const;
+    void Find(double x, double y, BoxResult<Box>& result) const;
+    void Find(const Box& box, BoxResult<Box>& result) const;
 
     /// Asks for what a search will read first.
     void ReadNodesAhead() const {
@@ -106,9 +107,9 @@ private:
     void FreeRow();
     BoxNode* FindInRow(const Box* box) const;
     template <class IsHit>
-    void FindInRow(const Box& box, IsHit isHit, QnDynArrayBase<Box*>& result) const;
+    void FindInRow(const Box& box, IsHit isHit, BoxResult<Box>& result) const;
     template <class IsHit>
-    void FindLoose(IsHit isHit, QnDynArrayBase<Box*>& result) const;
+    void FindLoose(IsHit isHit, BoxResult<Box>& result) const;
     void LeavePlace(const BoxNode* node);
 
     void Arrange(const Box& range);

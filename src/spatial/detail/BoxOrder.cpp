@@ -344,20 +344,20 @@ BoxNode* BoxOrder::Take(const QnGeExtent2d* box) {
 }
 
 template <class IsHit>
-void BoxOrder::FindAll(const QnGeExtent2d& box, IsHit isHit, QnDynArrayBase<QnGeExtent2d*>& result) const {
+void BoxOrder::FindAll(const QnGeExtent2d& box, IsHit isHit, BoxResult<QnGeExtent2d>& result) const {
     BoxHits hits;
     m_root->Find(m_grid.SearchFor(box), isHit, hits);
     hits.SortByArrival();
     for (const BoxHits::Hit& hit : hits) {
-        result.Append(hit.box);
+        AppendTo(result, hit.box);
     }
 }
 
-void BoxOrder::Find(double x, double y, QnDynArrayBase<QnGeExtent2d*>& result) const {
+void BoxOrder::Find(double x, double y, BoxResult<QnGeExtent2d>& result) const {
     FindAll(QnGeExtent2d(x, x, y, y), HoldsPoint{x, y}, result);
 }
 
-void BoxOrder::Find(const QnGeExtent2d& box, QnDynArrayBase<QnGeExtent2d*>& result) const {
+void BoxOrder::Find(const QnGeExtent2d& box, BoxResult<QnGeExtent2d>& result) const {
     FindAll(box, MeetsBox{box}, result);
 }
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "containers/QnList.h"
+#include "spatial/detail/BoxResult.h"
 #include "spatial/detail/GridBox.h"
 #include "values/QnGeExtent2d.h"
 
@@ -30,8 +31,8 @@ public:
     BoxNode* Take(const QnGeExtent2d* box);
 
     /// Appends the boxes that hold a point, or meet a box, in the order of the list.
-    void Find(double x, double y, QnDynArrayBase<QnGeExtent2d*>& result) const;
-    void Find(const QnGeExtent2d& box, QnDynArrayBase<QnGeExtent2d*>& result) const;
+    void Find(double x, double y, BoxResult<QnGeExtent2d>& result) const;
+    void Find(const QnGeExtent2d& box, BoxResult<QnGeExtent2d>& result) const;
 
     static void* operator new(std::size_t bytes) { return TakePiece(bytes); }
     static void operator delete(void* order, std::size_t bytes) { GivePiece(order, bytes); }
@@ -46,22 +47,33 @@ public:
 
 private:
     template <class IsHit>
-    void FindAll(const QnGeExtent2d& box, IsHit isHit, QnDynArrayBase<QnGeExtent2d*>& result) const;
+    void FindAll(const QnGeExtent2d& box, IsHit isHit, BoxResult<QnGeExtent2d>& result) const;
 
     Grid m_grid;
     Block* m_root;
     Key m_arrivals = 0;
 };
 
-/// What is asked of each box that a search on the grid comes upon.
+/// What is asked of each box that a search comes upon: the tests of extents, all four comparisons in one, as their
+/// outcomes are too mixed to be foreseen.
 struct HoldsPoint {
     double x;
     double y;
-    bool operator()(const QnGeExtent2d& box) const { return box.IsInclude(x, y); }
+    bool operator()(const QnGeExtent2d& box) const {
+        const double tolerance = g_distZero;
+        const bool isInX = (x - box.x.min >= -tolerance) & (x - box.x.max <= tolerance);
+        const bool isInY = (y - box.y.min >= -tolerance) & (y - box.y.max <= tolerance);
+        return isInX & isInY;
+    }
 };
 struct MeetsBox {
     const QnGeExtent2d& searched;
-    bool operator()(const QnGeExtent2d& box) const { return box.IsInsersectWith(searched); }
+    bool operator()(const QnGeExtent2d& box) const {
+        const double tolerance = g_distZero;
+        const bool meetsInX = (box.x.min - searched.x.max <= tolerance) & (searched.x.min - box.x.max <= tolerance);
+        const bool meetsInY = (box.y.min - searched.y.max <= tolerance) & (searched.y.min - box.y.max <= tolerance);
+        return meetsInX & meetsInY;
+    }
 };
 
 }  // namespace qn_detail

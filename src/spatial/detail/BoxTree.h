@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "containers/QnList.h"
+#include "spatial/detail/BoxResult.h"
+#include "spatial/detail/PlainBoxLists.h"
 #include "spatial/detail/ReadAhead.h"
 #include "spatial/detail/SectorTree.h"
 
@@ -22,54 +24,13 @@ struct BoxTreeKind {
     static void AppendItem(Tree& tree, Item* item) { BoxLists::Append(tree, item); }
 };
 
-/// How a tree works on its lists: by going through them.
-template <class Tree, class Sectors>
-struct PlainBoxLists {
-    using Box = typename Sectors::Box;
-
-    static void Append(Tree& node, Box* box) { AppendTo(node.ExtentList, box); }
-
-    /// Takes the first entry out that is the same as `box` and answers it; null if there is none.
-    static Box* Take(Tree& node, const Box* box) {
-        QnList<Box*>& list = *node.ExtentList;
-        for (list.MoveToFirst(); !list.IsOut(); list.MoveToNext()) {
-            Box* const entry = list.GetCurData();
-            if (entry->IsSameWith(box)) {
-                list.DelCur();
-                return entry;
-            }
-        }
-        return nullptr;
-    }
-
-    static void ReadAhead(const Tree&) {}
-    static void HitPoint(const Tree& node, const QnGePoint& at, QnDynArrayBase<Box*>& result) {
-        AppendHits(
-            *node.ExtentList, [&at](const Box& box) { return Sectors::Holds(box, at); }, result);
-    }
-    static void HitBox(const Tree& node, const Box& searched, QnDynArrayBase<Box*>& result) {
-        AppendHits(
-            *node.ExtentList, [&searched](const Box& box) { return box.IsInsersectWith(searched); }, result);
-    }
-
-private:
-    template <class IsHit>
-    static void AppendHits(const QnList<Box*>& list, IsHit isHit, QnDynArrayBase<Box*>& result) {
-        for (Box* const* entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
-            if (isHit(**entry)) {
-                result.Append(*entry);
-            }
-        }
-    }
-};
-
 /// What the box trees of the plan and of space do alike.
 template <class ABoxTree, class BoxSectors, class BoxLists>
 struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
     using Base = SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>>;
     using Tree = ABoxTree;
     using Box = typename BoxSectors::Box;
-    using Boxes = QnDynArrayBase<Box*>;
+    using Boxes = BoxResult<Box>;
     using Base::COUNT;
     using Base::Insert;
     using Base::IsEmpty;
@@ -216,7 +177,7 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
         if (!std::isfinite(step)) {
             return;  // the root's list has everything, and takes this too
         }
-        QnList<Box*> boxes;
+        Boxes boxes;
         GetAllExtent(tree, boxes);
         Reset(tree);
         BoxSectors::SetRange(tree, RangeFor(box, middle, step > 1.0 ? step : 1.0, &old));
@@ -261,7 +222,7 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
             if (node.Child[sector] != nullptr) {
                 HitPoint(*node.Child[sector], at, result);
             } else if (node.OneExtent != nullptr && BoxSectors::Holds(*node.OneExtent, at)) {
-                result.Append(node.OneExtent);
+                AppendTo(result, node.OneExtent);
             }
         }
         if (node.ExtentList != nullptr) {
@@ -271,17 +232,19 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
 
     /// Appends the boxes that meet `box`, which is cut to the children's cells on the way down.
     static void HitBox(const Tree& node, const Box& box, Boxes& result) {
-        const int sector = SectorOf(node, box);
         if (node.ExtentList != nullptr) {
             BoxLists::ReadAhead(node);
         }
-        if (sector == NO_SECTOR) {
-            HitBoxInChildren(node, box, result);
-        } else if (node.Child[sector] != nullptr) {
-            HitBox(*node.Child[sector], box, result);
+        if (Base::HasChild(node)) {
+            const int sector = SectorOf(node, box);
+            if (sector == NO_SECTOR) {
+                HitBoxInChildren(node, box, result);
+            } else if (node.Child[sector] != nullptr) {
+                HitBox(*node.Child[sector], box, result);
+            }
         }
         if (node.OneExtent != nullptr && node.OneExtent->IsInsersectWith(box)) {
-            result.Append(node.OneExtent);
+            AppendTo(result, node.OneExtent);
         }
         if (node.ExtentList != nullptr) {
             BoxLists::HitBox(node, box, result);
@@ -292,18 +255,20 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
         for (const Tree* child : node.Child) {
             qn_detail::ReadAhead(child);
         }
-        bool isMet[COUNT] = {};
+        bool isMet[COUNT];
+        Box cut;
         for (int i = 0; i < COUNT; ++i) {
             const Tree* const child = node.Child[i];
-            if (child != nullptr) {
-                isMet[i] = (box & *child).IsValid();
+            isMet[i] = child != nullptr && BoxSectors::Cut(box, *child, cut);
+            if (isMet[i]) {
                 qn_detail::ReadAhead(child->ExtentList);
                 qn_detail::ReadAhead(child->OneExtent);
             }
         }
         for (int i = 0; i < COUNT; ++i) {
             if (isMet[i]) {
-                HitBox(*node.Child[i], box & *node.Child[i], result);
+                BoxSectors::Cut(box, *node.Child[i], cut);
+                HitBox(*node.Child[i], cut, result);
             }
         }
     }
@@ -312,11 +277,11 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
         if (node.ExtentList != nullptr) {
             const QnList<Box*>& list = *node.ExtentList;
             for (Box* const* entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
-                result.Append(*entry);
+                AppendTo(result, *entry);
             }
         }
         if (node.OneExtent != nullptr) {
-            result.Append(node.OneExtent);
+            AppendTo(result, node.OneExtent);
         }
         for (const Tree* child : node.Child) {
             if (child != nullptr) {

@@ -12,7 +12,7 @@ namespace qn_detail {
 struct OrderedBoxLists {
     using Tree = QnGeQuadTree2d;
     using Box = QnGeExtent2d;
-    using Boxes = QnDynArrayBase<Box*>;
+    using Boxes = BoxResult<Box>;
     using Plain = PlainBoxLists<Tree, PlanSectors<Tree>>;
 
     static void Append(Tree& node, Box* box) {

@@ -69,6 +69,12 @@ inline QnGeExtent RangeAbout(double centre, double half) {
     return QnGeExtent(centre - half, centre + half);
 }
 
+/// As operator& of ranges.
+inline void CutRange(const QnGeExtent& range, const QnGeExtent& by, QnGeExtent& cut) {
+    cut.min = by.min > range.min ? by.min : range.min;
+    cut.max = by.max < range.max ? by.max : range.max;
+}
+
 /// How a tree of the plan divides its nodes.
 template <class Tree>
 struct PlanSectors {
@@ -96,6 +102,12 @@ struct PlanSectors {
     }
     static double LongestButX(const Box& box) { return box.GetHeight(); }
     static bool Holds(const Box& box, const QnGePoint& p) { return box.IsInclude(p.x, p.y); }
+    /// Makes `cut` the overlap of a box with a cell; false if there is none.
+    static bool Cut(const Box& box, const Tree& cell, Box& cut) {
+        CutRange(box.x, cell.x, cut.x);
+        CutRange(box.y, cell.y, cut.y);
+        return cut.IsValid();
+    }
 };
 
 /// How a tree of space divides its nodes.
@@ -129,6 +141,12 @@ struct SpaceSectors {
         return box.GetHeight() > box.GetDepth() ? box.GetHeight() : box.GetDepth();
     }
     static bool Holds(const Box& box, const QnGePoint& p) { return box.IsInclude(p.x, p.y, p.z); }
+    static bool Cut(const Box& box, const Tree& cell, Box& cut) {
+        CutRange(box.x, cell.x, cut.x);
+        CutRange(box.y, cell.y, cut.y);
+        CutRange(box.z, cell.z, cut.z);
+        return cut.IsValid();
+    }
 };
 
 }  // namespace qn_detail
