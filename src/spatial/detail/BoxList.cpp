@@ -328,7 +328,7 @@ void BoxList::FindLoose(IsHit isHit, BoxResult<Box>& result) const {
         }
         return;
     }
-    Box* boxes[FEWEST_IN_ROW];
+    Box* boxes[FEWEST_IN_ROW] = {};
     const BoxNode* node = m_pTail;
     for (long i = m_nLength - 1; i >= 0; --i) {
         boxes[i] = node->data;
