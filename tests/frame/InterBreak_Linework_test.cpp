@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "curves2d/QnGeLineSeg2d.h"
+#include "frame/PieceList.h"
 #include "frame/QnGeObjList.h"
 #include "polylines/QnGeMLine2d.h"
 #include "support/DataFiles.h"
@@ -36,22 +37,6 @@ QnGeObjList AsSegments(const std::vector<QnGeMLine2d>& lines) {
         line.Explode(list);
     }
     return list;
-}
-
-std::vector<const QnGeCurve2d*> CurvesOf(const QnGeObjList& list) {
-    std::vector<const QnGeCurve2d*> curves;
-    for (auto entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
-        curves.push_back(static_cast<const QnGeCurve2d*>(*entry));
-    }
-    return curves;
-}
-
-double LengthOf(const QnGeObjList& list) {
-    double length = 0.0;
-    for (const QnGeCurve2d* curve : CurvesOf(list)) {
-        length += curve->Length();
-    }
-    return length;
 }
 
 // ---- an index of the test's own ----------------------------------------------------------------------

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "frame/CurveSoup.h"
+#include "frame/PieceList.h"
 #include "frame/QnGeObjList.h"
 #include "support/TextGeo.h"
 #include "values/QnGeExtent2d.h"
@@ -17,22 +18,6 @@ namespace {
 
 constexpr double NEAR_AN_END = 1e-5;
 constexpr double LENGTH_ERROR = 1e-9;
-
-std::vector<const QnGeCurve2d*> CurvesOf(const QnGeObjList& list) {
-    std::vector<const QnGeCurve2d*> curves;
-    for (auto entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
-        curves.push_back(static_cast<const QnGeCurve2d*>(*entry));
-    }
-    return curves;
-}
-
-double LengthOf(const QnGeObjList& list) {
-    double length = 0.0;
-    for (const QnGeCurve2d* curve : CurvesOf(list)) {
-        length += curve->Length();
-    }
-    return length;
-}
 
 bool IsAtAnEnd(const QnGeCurve2d& curve, const QnGePoint& pt) {
     QnGePoint start;
