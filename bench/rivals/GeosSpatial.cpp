@@ -261,7 +261,7 @@ public:
     bool IsDynamic() const override { return false; }
 
     void Insert() override {
-        m_tree = std::make_unique<Tree>(m_boxes.size());
+        m_tree = std::make_unique<Tree>(NODE_CAPACITY, m_boxes.size());
         for (const Envelope& box : m_boxes) {
             m_tree->insert(box, &box);
         }
@@ -274,6 +274,7 @@ public:
 
 private:
     using Tree = geos::index::strtree::TemplateSTRtree<const Envelope*>;
+    static constexpr std::size_t NODE_CAPACITY = 10;  // its default
 
     long Find(const std::vector<Envelope>& places) override {
         long found = 0;
