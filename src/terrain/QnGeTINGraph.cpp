@@ -2,10 +2,10 @@
 #include "terrain/QnGeTINGraph.h"
 
 #include "containers/QnDynArray.h"
-#include "spatial/detail/TreeFinger.h"
 #include "terrain/detail/HullIndex.h"
-#include "values/QnGeBaseLine2d.h"
-#include "values/detail/PathType.h"
+#include "terrain/detail/TriangleFinder.h"
+#include "terrain/detail/TriangleHit.h"
+#include "terrain/detail/TriangleTree.h"
 
 namespace {
 
@@ -29,7 +29,8 @@ constexpr double MARGIN = 10.0;
 
 // ---- making ----------------------------------------------------------------------------------------
 
-QnGeTINGraph::QnGeTINGraph() : m_finger(new qn_detail::TreeFinger(TrgTree)) {}
+QnGeTINGraph::QnGeTINGraph()
+    : m_tree(new qn_detail::TriangleTree(TrgTree)), m_finder(new qn_detail::TriangleFinder) {}
 
 QnGeTINGraph::~QnGeTINGraph() = default;
 
@@ -42,7 +43,7 @@ QnGeTINGraph::QnGeTINGraph(const QnGeTINGraph& other)
       NodeList(other.NodeList),
       TrgList(other.TrgList),
       OutEdgeList(other.OutEdgeList),
-      m_finger(new qn_detail::TreeFinger(TrgTree)) {
+      m_finder(new qn_detail::TriangleFinder) {
     SetTreeRanges(other.TrgTree);
 }
 
@@ -54,7 +55,7 @@ QnGeTINGraph& QnGeTINGraph::operator=(const QnGeTINGraph& other) {
     TrgQuene = other.TrgQuene;
     TrgTree.Reset();
     NodeTree.Reset();
-    m_finger = std::make_unique<qn_detail::TreeFinger>(TrgTree);
+    m_tree.reset();
     SetTreeRanges(other.TrgTree);
     Range = other.Range;
     NodeList = other.NodeList;
@@ -75,7 +76,7 @@ void QnGeTINGraph::SetRange(double xMin, double xMax, double yMin, double yMax) 
 
 void QnGeTINGraph::SetTreeRanges(const QnGeExtent2d& range) {
     if (!TrgTree.IsEmptyTree()) {
-        m_finger.reset();  // its nodes will not lie where the way from the root leads
+        m_tree.reset();  // its nodes will not lie where the way from the root leads
     }
     TrgTree.SetRange(range.x.min, range.x.max, range.y.min, range.y.max);
     NodeTree.SetRange(range.x.min, range.x.max, range.y.min, range.y.max);
@@ -84,9 +85,7 @@ void QnGeTINGraph::SetTreeRanges(const QnGeExtent2d& range) {
 // ---- the stack -------------------------------------------------------------------------------------
 
 void QnGeTINGraph::TreeChanged() {
-    if (m_finger != nullptr) {
-        m_finger->Forget();
-    }
+    m_tree.reset();
 }
 
 void QnGeTINGraph::PushLOP(QnGeTINTriangle* triangle) {
@@ -94,8 +93,8 @@ void QnGeTINGraph::PushLOP(QnGeTINTriangle* triangle) {
     triangle->Radius = -1.0;
     LOPStack.Push(triangle);
     if (triangle->HasBit(TRG_IN_TREE)) {
-        if (m_finger != nullptr) {
-            m_finger->Delete(triangle);
+        if (m_tree != nullptr) {
+            m_tree->Delete(triangle);
         } else {
             TrgTree.Delete(triangle, false);
         }
@@ -108,10 +107,13 @@ void QnGeTINGraph::PopLOP() {
         return;
     }
     triangle->UpdateExtend();
-    if (m_finger != nullptr) {
-        m_finger->Insert(triangle);
-    } else {
+    if (m_tree != nullptr && !m_tree->Insert(triangle)) {
+        m_tree.reset();  // twice in the tree
+    }
+    if (m_tree == nullptr) {
         TrgTree.Insert(triangle);
+    } else {
+        m_finder->LearnTriangle(*triangle);
     }
     triangle->SetBit(TRG_IN_TREE);
 }
@@ -125,66 +127,18 @@ void QnGeTINGraph::LOP() {
 
 // ---- locating --------------------------------------------------------------------------------------
 
-namespace {
-
-/// Where a node lies that is on the line of edge `i` of the triangle: at an end, on the edge, or 0 for beyond it.
-int HitTestAtEdge(const QnGeTINNode& node, const QnGeTINTriangle& triangle, int i) {
-    const int next = (i + 1) % 3;
-    const QnGeTINNode& from = *triangle.Node[i];
-    const QnGeTINNode& to = *triangle.Node[next];
-    if (node == from) {
-        return -(i + 1);
-    }
-    if (node == to) {
-        return -(next + 1);
-    }
-    double pa = 0.0;
-    QnGeBaseLine2d(from, to).GetPaFromPt(node, pa);
-    return pa > 0.0 && pa < 1.0 ? i + 1 : 0;
-}
-
-/// What a search for a node has come to.
-struct TriangleHit {
-    QnGeTINTriangle* triangle = nullptr;
-    int place = 0;
-
-    bool Decide(const QnGeTINNode& node, QnGeTINTriangle* candidate);
-};
-
-/// Whether this candidate ends the search: it holds the node, or the node is on the line of its hull edge, which leaves
-/// no triangle.
-bool TriangleHit::Decide(const QnGeTINNode& node, QnGeTINTriangle* candidate) {
-    for (int i = 0; i < 3; ++i) {
-        const int turn = qn_detail::PathTypeOf(node, *candidate->Node[i], *candidate->Node[i == 2 ? 0 : i + 1]);
-        if (turn == PATH_RIGHT) {
-            return false;
-        }
-        if (turn == PATH_STRAIGHT) {
-            if (candidate->NearTrg[i] == nullptr) {
-                return true;
-            }
-            place = HitTestAtEdge(node, *candidate, i);
-            triangle = place != 0 ? candidate : nullptr;
-            return place != 0;
-        }
-    }
-    triangle = candidate;
-    return true;
-}
-
-}  // namespace
-
 int QnGeTINGraph::HitTest(QnGeTINNode* node, QnGeTINTriangle*& triangle) {
-    TriangleHit hit;
-    const auto decide = [&hit, node](QnGeExtent2d* box) {
-        return hit.Decide(*node, static_cast<QnGeTINTriangle*>(box));
-    };
-    if (m_finger != nullptr) {
-        m_finger->VisitHits(node->x, node->y, decide);
-    } else {
+    qn_detail::TriangleHit hit;
+    const bool canWalk = m_tree != nullptr && LOPStack.IsEmpty();
+    if (!canWalk || !m_finder->Find(*node, m_tree->GetNear(*node), Range, hit)) {
         QnDynArray<QnGeExtent2d*> boxes;
-        TrgTree.HitTest(node->x, node->y, boxes);
-        for (long i = 0; i < boxes.GetLength() && !decide(boxes.GetAt(i)); ++i) {}
+        if (m_tree != nullptr) {
+            m_tree->HitTest(*node, boxes);
+        } else {
+            TrgTree.HitTest(node->x, node->y, boxes);
+        }
+        hit = {};
+        for (long i = 0; i < boxes.GetLength() && !hit.Decide(*node, static_cast<QnGeTINTriangle*>(boxes.GetAt(i))); ++i) {}
     }
     triangle = hit.triangle;
     return hit.place;

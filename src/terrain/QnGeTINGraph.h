@@ -16,7 +16,8 @@
 
 namespace qn_detail {
 class HullIndex;
-class TreeFinger;
+class TriangleFinder;
+class TriangleTree;
 }  // namespace qn_detail
 
 /// A triangulated network: nodes go in one by one, and the edges round each are flipped until no node lies within the
@@ -129,5 +130,6 @@ private:
     void ReplaceHullEdges(long index, long count, QnGeTINOutEdge* first, QnGeTINOutEdge* second);
 
     std::unique_ptr<qn_detail::HullIndex> m_hull;     ///< of a long hull
-    std::unique_ptr<qn_detail::TreeFinger> m_finger;  ///< on TrgTree; null once that has got a range over its contents
+    std::unique_ptr<qn_detail::TriangleTree> m_tree;  ///< works on TrgTree; null once others have changed that
+    std::unique_ptr<qn_detail::TriangleFinder> m_finder;
 };

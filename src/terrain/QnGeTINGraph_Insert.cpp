@@ -12,6 +12,7 @@
 // Order      Of pushing and of making: both decide the order of lists, in the tree too, and with it later answers.
 // Ownership  Insert takes the node when it answers true.
 #include "terrain/QnGeTINGraph.h"
+#include "terrain/detail/TriangleFinder.h"
 #include "values/QnGeAnalytic.h"
 
 bool QnGeTINGraph::Insert(QnGeTINNode* node) {
@@ -40,6 +41,7 @@ bool QnGeTINGraph::Insert(QnGeTINNode* node) {
         Range += box;
     }
     LOP();
+    m_finder->LearnSize(OutEdgeList, Range, NodeList.GetLength());
     return true;
 }
 

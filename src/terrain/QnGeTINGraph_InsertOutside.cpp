@@ -13,8 +13,11 @@
 // Why so     A long hull has an index that passes over edges which cannot decide (detail/HullIndex.h); the walk stays
 //            that over all edges in order.
 // Ownership  As Insert: the node is the graph's on true.
+#include <cmath>
+
 #include "terrain/QnGeTINGraph.h"
 #include "terrain/detail/HullIndex.h"
+#include "terrain/detail/TriangleFinder.h"
 #include "values/QnGeBaseLine2d.h"
 #include "values/detail/PathType.h"
 
@@ -44,6 +47,26 @@ int TurnTo(const Ring& ring, QnGeTINOutEdge* const* entry, const QnGeTINNode& no
     return qn_detail::PathTypeOf(*(*entry)->Node, *(*NextInRing(ring, entry))->Node, node);
 }
 
+double Larger(double a, double b) {
+    return a > b ? a : b;
+}
+double Smaller(double a, double b) {
+    return a < b ? a : b;
+}
+
+/// Whether a node on the line of an edge is surely neither on the edge nor at its ends. On a straight row this is so of
+/// almost all edges.
+bool IsBeyondEnds(const Ring& ring, QnGeTINOutEdge* const* entry, const QnGeTINNode& node) {
+    constexpr double NEAR = 5.0;  // in tolerances; on the line means within 2.9 of it
+    constexpr double ROUNDING = 1e-14;
+    const QnGeTINNode& a = *(*entry)->Node;
+    const QnGeTINNode& b = *(*NextInRing(ring, entry))->Node;
+    const double far = std::fabs(node.x - a.x) + std::fabs(node.y - a.y);
+    const double margin = NEAR * std::fabs(g_distZero) + ROUNDING * far;
+    return Larger(a.x, b.x) < node.x - margin || Smaller(a.x, b.x) > node.x + margin ||
+           Larger(a.y, b.y) < node.y - margin || Smaller(a.y, b.y) > node.y + margin;
+}
+
 }  // namespace
 
 /// The index of the hull if it is long. The list is open to callers: one who turns it round, or takes records off or
@@ -66,15 +89,16 @@ bool QnGeTINGraph::InsertOutside(QnGeTINNode* node) {
     while (hull == nullptr || (count = hull->FindNext(*node, i, entry)) > 0) {
         for (; count > 0; --count) {
             const int turn = TurnTo(OutEdgeList, entry, *node);
-            if (turn != PATH_LEFT) {
-                RingCursor::PutOn(OutEdgeList, entry, i);
-            }
             if (turn == PATH_RIGHT) {
+                RingCursor::PutOn(OutEdgeList, entry, i);
                 JoinHullEdges(node, i);
                 return true;
             }
-            if (turn == PATH_STRAIGHT && JoinHullLine(node, i)) {
-                return true;
+            if (turn == PATH_STRAIGHT && !IsBeyondEnds(OutEdgeList, entry, *node)) {
+                RingCursor::PutOn(OutEdgeList, entry, i);
+                if (JoinHullLine(node, i)) {
+                    return true;
+                }
             }
             entry = OutEdgeList.GetNext(entry);
             ++i;
@@ -158,8 +182,9 @@ void QnGeTINGraph::JoinHullEdges(QnGeTINNode* node, long index) {
 void QnGeTINGraph::ReplaceHullEdges(long index, long count, QnGeTINOutEdge* first, QnGeTINOutEdge* second) {
     OutEdgeList.Insert(index, second);
     OutEdgeList.Insert(index, first);
+    QnGeTINOutEdge* const* const entry = OutEdgeList.GetTo(index);
+    m_finder->LearnHull(OutEdgeList, entry);
     if (m_hull != nullptr) {
-        QnGeTINOutEdge* const* const entry = OutEdgeList.GetTo(index);
         m_hull->Replace(index, count, entry, OutEdgeList.GetNext(entry));
     }
 }

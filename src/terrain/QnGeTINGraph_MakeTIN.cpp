@@ -12,6 +12,7 @@
 #include "terrain/QnGeTINGraph.h"
 
 #include "terrain/detail/InsertionOrder.h"
+#include "terrain/detail/TriangleFinder.h"
 
 namespace {
 
@@ -37,10 +38,15 @@ void QnGeTINGraph::MakeTIN() {
     nodes.Conbine(NodeList, 0);
     qn_detail::SortForInsertion(nodes, NodeTree);
     QnGeTINNode* const* ahead = nodes.GetTo(AHEAD);
+    QnGeTINNode* const* soon = nodes.GetTo(2);
     while (!nodes.IsEmpty()) {
         if (ahead != nullptr) {
             __builtin_prefetch(*ahead);
             ahead = nodes.GetNext(ahead);
+        }
+        if (soon != nullptr) {
+            m_finder->ReadAhead(**soon);
+            soon = nodes.GetNext(soon);
         }
         QnGeTINNode* const node = *nodes.GetFirst();
         nodes.DelHead();

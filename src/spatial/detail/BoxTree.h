@@ -22,6 +22,8 @@ struct BoxTreeKind {
     static Item*& One(Tree& tree) { return tree.OneExtent; }
     static Item* One(const Tree& tree) { return tree.OneExtent; }
     static void AppendItem(Tree& tree, Item* item) { BoxLists::Append(tree, item); }
+    static void PutOne(Tree& tree, Item* item) { tree.OneExtent = item; }
+    static Tree* MakeChild(Tree&) { return new Tree; }
 };
 
 /// What the box trees of the plan and of space do alike.

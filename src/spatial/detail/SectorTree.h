@@ -10,7 +10,8 @@ namespace qn_detail {
 /// across their borders, and one item where there is nothing else.
 ///
 /// `Kind` names the tree, its item and its sectors. Items(tree) and One(tree) are the list and the single item, which
-/// box and point trees call differently; AppendItem(tree, item) puts an item at the end of the list.
+/// box and point trees call differently; AppendItem(tree, item) puts an item at the end of the list, PutOne(tree, item)
+/// makes it the single one, and MakeChild(tree) is a new node for below the tree.
 template <class Kind>
 struct SectorTree : Kind::Sectors {
     using Tree = typename Kind::Tree;
@@ -56,7 +57,7 @@ struct SectorTree : Kind::Sectors {
 
     static Tree& ChildAt(Tree& node, int sector) {
         if (node.Child[sector] == nullptr) {
-            node.Child[sector] = new Tree;
+            node.Child[sector] = Kind::MakeChild(node);
             Sectors::SetRange(*node.Child[sector], Sectors::RangeOf(node, sector));
         }
         return *node.Child[sector];
@@ -79,7 +80,7 @@ struct SectorTree : Kind::Sectors {
                 return;
             }
             if (IsEmpty(*node)) {
-                Kind::One(*node) = item;
+                Kind::PutOne(*node, item);
                 return;
             }
             Tree& child = ChildAt(*node, sector);
@@ -120,6 +121,8 @@ struct PointTreeKind {
     static QnGePoint*& One(Tree& tree) { return tree.OnePoint; }
     static QnGePoint* One(const Tree& tree) { return tree.OnePoint; }
     static void AppendItem(Tree& tree, QnGePoint* point) { AppendTo(tree.PointList, point); }
+    static void PutOne(Tree& tree, QnGePoint* point) { tree.OnePoint = point; }
+    static Tree* MakeChild(Tree&) { return new Tree; }
 };
 
 /// What point trees do beyond the common.

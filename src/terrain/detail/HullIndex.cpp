@@ -59,14 +59,15 @@ void HullIndex::Bounds::AddEdge(const QnGePoint& a, const QnGePoint& b) {
     const double dx = b.x - a.x;
     const double dy = b.y - a.y;
     const double length = std::fabs(dx) + std::fabs(dy);
-    const double ux = dy / length / 2.0;
-    const double uy = -dx / length / 2.0;
+    const double perLength = 1.0 / length;
+    const double ux = dy * perLength / 2.0;
+    const double uy = -dx * perLength / 2.0;
     uxMin = ux < uxMin ? ux : uxMin;
     uxMax = ux > uxMax ? ux : uxMax;
     uyMin = uy < uyMin ? uy : uyMin;
     uyMax = uy > uyMax ? uy : uyMax;
     most = Larger(ux * (rx - a.x) + uy * (ry - a.y), most);
-    shortest = length < shortest ? length : shortest;
+    steepest = Larger(perLength, steepest);
 }
 
 void HullIndex::Bounds::Add(const Bounds& other) {
@@ -79,7 +80,7 @@ void HullIndex::Bounds::Add(const Bounds& other) {
     uyMin = other.uyMin < uyMin ? other.uyMin : uyMin;
     uyMax = other.uyMax > uyMax ? other.uyMax : uyMax;
     most = Larger(other.MostAt(rx, ry), most);
-    shortest = other.shortest < shortest ? other.shortest : shortest;
+    steepest = Larger(other.steepest, steepest);
 }
 
 /// No edge has a larger v at this point, but for rounding.
@@ -94,8 +95,8 @@ bool HullIndex::Bounds::CanPass(const QnGePoint& p) const {
     const double farX = Larger(std::fabs(p.x - xMin), std::fabs(p.x - xMax));
     const double farY = Larger(std::fabs(p.y - yMin), std::fabs(p.y - yMax));
     const double width = (xMax - xMin) + (yMax - yMin);
-    const double error = ROUNDING * (farX + farY + width) + ROUNDING * farX * farY / shortest;
-    if (!(shortest > 0.0 && MostAt(p.x, p.y) + error < g_distZero)) {
+    const double error = ROUNDING * (farX + farY + width) + ROUNDING * farX * farY * steepest;
+    if (!(MostAt(p.x, p.y) + error < g_distZero)) {
         return false;
     }
     const double margin = NEAR * (g_distZero + error);
@@ -144,7 +145,7 @@ const HullIndex::Bounds& HullIndex::BoundsOf(long at) {
     if (block.stale) {
         const QnGePoint* from = (*block.entries[0])->Node;
         const double none = HUGE_VAL;
-        block.bounds = {from->x, from->x, from->y, from->y, none, -none, none, -none, from->x, from->y, -none, none};
+        block.bounds = {from->x, from->x, from->y, from->y, none, -none, none, -none, from->x, from->y, -none, 0.0};
         for (long i = 1; i < ref.count; ++i) {
             const QnGePoint* const to = (*block.entries[i])->Node;
             block.bounds.AddEdge(*from, *to);
@@ -191,13 +192,21 @@ void HullIndex::MakeStale(long at) {
 
 /// The block that holds edge `index`, and the edge's place in it.
 HullIndex::BlockRef& HullIndex::Locate(long index, long& at, long& offset) {
-    at = 0;
-    offset = index;
+    const bool isBehind = index >= m_locatedStart;
+    at = isBehind ? m_located : 0;
+    offset = isBehind ? index - m_locatedStart : index;
     while (offset >= m_blocks[at].count) {
         offset -= m_blocks[at].count;
         ++at;
     }
+    KeepLocated(at, index - offset);
     return m_blocks[at];
+}
+
+/// The next change or question is likely to be about the same edges. Changes of a block leave its start.
+void HullIndex::KeepLocated(long at, long start) {
+    m_located = at;
+    m_locatedStart = start;
 }
 
 long HullIndex::FindNext(const QnGePoint& node, long& index, Entry& entry) {
@@ -219,6 +228,7 @@ long HullIndex::FindNext(const QnGePoint& node, long& index, Entry& entry) {
         const BlockRef& ref = m_blocks[at];
         if (offset > 0 || !BoundsOf(at).CanPass(node)) {
             entry = ref.block->entries[offset];
+            KeepLocated(at, index - offset);
             return ref.count - offset;
         }
         index += ref.count;
@@ -244,6 +254,7 @@ void HullIndex::SplitBlock(long at, long offset) {
 }
 
 void HullIndex::RemoveBlock(long at) {
+    KeepLocated(0, 0);
     delete m_blocks[at].block;
     std::copy(m_blocks.begin() + at + 1, m_blocks.end(), m_blocks.begin() + at);
     m_blocks.Shorten(m_blocks.GetLength() - 1);
@@ -267,6 +278,35 @@ void HullIndex::Remove(long index, long count) {
     }
 }
 
+/// Two edges in the place of one: their block stays, with bounds that take them in and keep what the one gave. That is
+/// made good when the block is divided.
+void HullIndex::ReplaceOne(long at, long offset, Entry first, Entry second) {
+    BlockRef& ref = m_blocks[at];
+    Block& block = *ref.block;
+    std::copy_backward(block.entries + offset, block.entries + ref.count, block.entries + ref.count + 1);
+    block.entries[offset] = first;
+    block.entries[offset + 1] = second;
+    ++ref.count;
+    ++m_length;
+    const QnGePoint& from = *(*first)->Node;
+    const QnGePoint& middle = *(*second)->Node;
+    const QnGePoint& to = offset + 2 < ref.count ? *(*block.entries[offset + 2])->Node : EndOf(at);
+    const auto widen = [&](Bounds& bounds) {
+        bounds.AddEdge(from, middle);
+        bounds.AddEdge(middle, to);
+    };
+    if (!block.stale) {
+        widen(block.bounds);
+    }
+    if (at / GROUP < m_groups.GetLength()) {
+        Group& group = m_groups[at / GROUP];
+        ++group.count;
+        if (!group.stale) {
+            widen(group.bounds);
+        }
+    }
+}
+
 void HullIndex::Replace(long index, long count, Entry first, Entry second) {
     // The new entries go in first, so that the ring is never empty.
     long at = 0;
@@ -274,6 +314,10 @@ void HullIndex::Replace(long index, long count, Entry first, Entry second) {
     if (Locate(index, at, offset).count + 2 > MOST) {
         SplitBlock(at, MOST / 2);
         Locate(index, at, offset);
+    }
+    if (count == 1) {
+        ReplaceOne(at, offset, first, second);
+        return;
     }
     BlockRef& ref = m_blocks[at];
     std::copy_backward(ref.block->entries + offset, ref.block->entries + ref.count, ref.block->entries + ref.count + 2);
@@ -293,6 +337,7 @@ void HullIndex::Rotate(long index) {
         SplitBlock(at, offset);
         ++at;
     }
+    KeepLocated(0, 0);
     std::rotate(m_blocks.begin(), m_blocks.begin() + at, m_blocks.end());
     m_groups.Clear();
 }

@@ -46,7 +46,7 @@ private:
         double uxMin, uxMax, uyMin, uyMax;  ///< of the gradients
         double rx, ry;                      ///< the point of reference
         double most;                        ///< largest v there
-        double shortest;                    ///< length of the shortest edge, as |dx| + |dy|
+        double steepest;                    ///< one by the length of the shortest edge, as |dx| + |dy|
 
         void AddNode(const QnGePoint& p);
         void AddEdge(const QnGePoint& a, const QnGePoint& b);
@@ -66,17 +66,21 @@ private:
     };
 
     BlockRef& Locate(long index, long& at, long& offset);
+    void KeepLocated(long at, long start);
     const Bounds& BoundsOf(long at);
     const Group& GroupOf(long at);
     const QnGePoint& EndOf(long at) const;
     void SplitBlock(long at, long offset);
     void RemoveBlock(long at);
     void Remove(long index, long count);
+    void ReplaceOne(long at, long offset, Entry first, Entry second);
     void MakeStale(long at);
 
     PodArray<BlockRef> m_blocks;  ///< in ring order, none empty
     PodArray<Group> m_groups;     ///< of GROUP blocks each, by their places
     long m_length = 0;
+    long m_located = 0;       ///< the block looked at last
+    long m_locatedStart = 0;  ///< the index of its first edge
 };
 
 }  // namespace qn_detail
