@@ -43,6 +43,7 @@ QnGeTINGraph::QnGeTINGraph(const QnGeTINGraph& other)
       NodeList(other.NodeList),
       TrgList(other.TrgList),
       OutEdgeList(other.OutEdgeList),
+      m_tree(new qn_detail::TriangleTree(TrgTree)),
       m_finder(new qn_detail::TriangleFinder) {
     SetTreeRanges(other.TrgTree);
 }
@@ -55,12 +56,13 @@ QnGeTINGraph& QnGeTINGraph::operator=(const QnGeTINGraph& other) {
     TrgQuene = other.TrgQuene;
     TrgTree.Reset();
     NodeTree.Reset();
-    m_tree.reset();
-    SetTreeRanges(other.TrgTree);
+    m_tree = std::make_unique<qn_detail::TriangleTree>(TrgTree);
+    m_finder = std::make_unique<qn_detail::TriangleFinder>();
     Range = other.Range;
     NodeList = other.NodeList;
     TrgList = other.TrgList;
     OutEdgeList = other.OutEdgeList;
+    SetTreeRanges(other.TrgTree);
     m_hull.reset();
     return *this;
 }
@@ -75,8 +77,8 @@ void QnGeTINGraph::SetRange(double xMin, double xMax, double yMin, double yMax) 
 }
 
 void QnGeTINGraph::SetTreeRanges(const QnGeExtent2d& range) {
-    if (!TrgTree.IsEmptyTree()) {
-        m_tree.reset();  // its nodes will not lie where the way from the root leads
+    if (!TrgList.IsEmpty() || !TrgTree.IsEmptyTree()) {
+        m_tree->GoPlain();  // the cells will not lie where the way from the root leads, or are another graph's
     }
     TrgTree.SetRange(range.x.min, range.x.max, range.y.min, range.y.max);
     NodeTree.SetRange(range.x.min, range.x.max, range.y.min, range.y.max);
@@ -85,7 +87,7 @@ void QnGeTINGraph::SetTreeRanges(const QnGeExtent2d& range) {
 // ---- the stack -------------------------------------------------------------------------------------
 
 void QnGeTINGraph::TreeChanged() {
-    m_tree.reset();
+    m_tree->GoPlain();
 }
 
 void QnGeTINGraph::PushLOP(QnGeTINTriangle* triangle) {
@@ -93,11 +95,7 @@ void QnGeTINGraph::PushLOP(QnGeTINTriangle* triangle) {
     triangle->Radius = -1.0;
     LOPStack.Push(triangle);
     if (triangle->HasBit(TRG_IN_TREE)) {
-        if (m_tree != nullptr) {
-            m_tree->Delete(triangle);
-        } else {
-            TrgTree.Delete(triangle, false);
-        }
+        m_tree->Delete(triangle);
     }
 }
 
@@ -107,14 +105,8 @@ void QnGeTINGraph::PopLOP() {
         return;
     }
     triangle->UpdateExtend();
-    if (m_tree != nullptr && !m_tree->Insert(triangle)) {
-        m_tree.reset();  // twice in the tree
-    }
-    if (m_tree == nullptr) {
-        TrgTree.Insert(triangle);
-    } else {
-        m_finder->LearnTriangle(*triangle);
-    }
+    m_tree->Insert(triangle);
+    m_finder->LearnTriangle(*triangle);
     triangle->SetBit(TRG_IN_TREE);
 }
 
@@ -129,16 +121,15 @@ void QnGeTINGraph::LOP() {
 
 int QnGeTINGraph::HitTest(QnGeTINNode* node, QnGeTINTriangle*& triangle) {
     qn_detail::TriangleHit hit;
-    const bool canWalk = m_tree != nullptr && LOPStack.IsEmpty();
-    if (!canWalk || !m_finder->Find(*node, m_tree->GetNear(*node), Range, hit)) {
+    if (!LOPStack.IsEmpty() || !m_finder->Find(*node, m_tree->GetNear(*node), Range, hit)) {
         QnDynArray<QnGeExtent2d*> boxes;
-        if (m_tree != nullptr) {
-            m_tree->HitTest(*node, boxes);
-        } else {
-            TrgTree.HitTest(node->x, node->y, boxes);
-        }
+        m_tree->HitTest(*node, boxes);
         hit = {};
-        for (long i = 0; i < boxes.GetLength() && !hit.Decide(*node, static_cast<QnGeTINTriangle*>(boxes.GetAt(i))); ++i) {}
+        for (long i = 0; i < boxes.GetLength(); ++i) {
+            if (hit.Decide(*node, static_cast<QnGeTINTriangle*>(boxes.GetAt(i)))) {
+                break;
+            }
+        }
     }
     triangle = hit.triangle;
     return hit.place;

@@ -130,6 +130,6 @@ private:
     void ReplaceHullEdges(long index, long count, QnGeTINOutEdge* first, QnGeTINOutEdge* second);
 
     std::unique_ptr<qn_detail::HullIndex> m_hull;     ///< of a long hull
-    std::unique_ptr<qn_detail::TriangleTree> m_tree;  ///< works on TrgTree; null once others have changed that
+    std::unique_ptr<qn_detail::TriangleTree> m_tree;  ///< works on TrgTree
     std::unique_ptr<qn_detail::TriangleFinder> m_finder;
 };

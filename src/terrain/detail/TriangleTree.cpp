@@ -5,7 +5,7 @@
 
 #include "containers/QnList.h"
 #include "spatial/detail/BoxOrder.h"
-#include "spatial/detail/SectorTree.h"
+#include "spatial/detail/BoxTree.h"
 #include "terrain/QnGeTINTriangle.h"
 
 namespace qn_detail {
@@ -135,6 +135,8 @@ struct TriangleTree::Kind {
 
 struct TriangleTree::Work : SectorTree<Kind> {};
 
+using PlainWork = BoxTree<Tree, Sectors, PlainBoxLists<Tree, Sectors>>;
+
 /// Follows an insertion down.
 struct TriangleTree::Steps {
     Tree*& last;
@@ -164,17 +166,22 @@ void TriangleTree::ClimbTo(const Item& item) {
     }
 }
 
-bool TriangleTree::Insert(QnGeTINTriangle* triangle) {
-    if (triangle->m_place.cell != nullptr) {
-        return false;
+void TriangleTree::Insert(QnGeTINTriangle* triangle) {
+    m_isPlain = m_isPlain || triangle->m_place.cell != nullptr;
+    if (m_isPlain) {
+        PlainWork::Insert(m_root, triangle);
+        return;
     }
     ClimbTo(*triangle);
     Steps steps{m_last};
     Work::Insert(*m_last, triangle, steps);
-    return true;
 }
 
 void TriangleTree::Delete(QnGeTINTriangle* triangle) {
+    if (m_isPlain) {
+        PlainWork::Take(m_root, triangle);
+        return;
+    }
     Tree* cell = triangle->m_place.cell;
     if (cell == nullptr) {
         return;
@@ -202,6 +209,9 @@ void TriangleTree::Delete(QnGeTINTriangle* triangle) {
 }
 
 WalkStart TriangleTree::GetNear(const QnGePoint& point) {
+    if (m_isPlain) {
+        return {};
+    }
     ClimbTo(point);
     int sector = NO_SECTOR;
     while ((sector = Sectors::Of(*m_last, point)) != NO_SECTOR && m_last->Child[sector] != nullptr) {
@@ -222,7 +232,11 @@ WalkStart TriangleTree::GetNear(const QnGePoint& point) {
 }
 
 void TriangleTree::HitTest(const QnGePoint& point, QnDynArray<QnGeExtent2d*>& result) {
-    HitTestFrom(m_root, point, result);
+    if (m_isPlain) {
+        PlainWork::HitPoint(m_root, point, result);
+    } else {
+        HitTestFrom(m_root, point, result);
+    }
 }
 
 void TriangleTree::HitTestFrom(Tree& cell, const QnGePoint& point, QnDynArray<QnGeExtent2d*>& result) {

@@ -17,30 +17,33 @@ struct WalkStart {
 /// Works on the tree of a network's triangles. Each triangle remembers where it stands, so that taking it out is no
 /// search, and putting one in starts where the tree was touched last.
 ///
-/// The tree becomes the same, and its lists have the same order, as by the tree's own operations from its root.
+/// The tree becomes the same, and its lists have the same order, as by the stated operations from its root.
 ///
 /// Requires   The range of the tree was set by SetRange while it was empty, and stays: then each bound of a cell is the
-///            centre of a cell above it, and a box well inside a cell would come to it from the root as well.
+///            centre of a cell above it, and a box well inside a cell would come to it from the root as well. Otherwise
+///            GoPlain.
 /// Ownership  The tree is the graph's and must outlive this.
-/// Laws       While this works on the tree, nobody else changes it.
+/// Laws       Nobody else changes the tree without GoPlain.
 /// Cost       Between neighbours less than one step up and down each.
 class TriangleTree {
 public:
     explicit TriangleTree(QnGeQuadTree2d& root) : m_root(root), m_last(&root) {}
 
-    /// Puts a triangle in under its present box.
-    ///
-    /// Fails  False, with nothing done, if it is in already.
-    bool Insert(QnGeTINTriangle* triangle);
+    /// From now on all is done from the root and by going through lists, whatever others have done to the tree.
+    void GoPlain() { m_isPlain = true; }
+
+    /// Puts a triangle in under its present box. One that is in already, as can happen in a network that has come
+    /// apart, is then in twice, and all goes plain.
+    void Insert(QnGeTINTriangle* triangle);
     /// Takes a triangle out; nothing happens if it is not in.
     void Delete(QnGeTINTriangle* triangle);
 
-    static bool IsIn(const QnGeTINTriangle& triangle);
-
     /// Appends the boxes that hold a point, as the tree itself does.
     void HitTest(const QnGePoint& point, QnDynArray<QnGeExtent2d*>& result);
-    /// From the smallest cell round a point that has triangles of its own.
+    /// From the smallest cell round a point that has triangles of its own; nowhere if all is plain.
     WalkStart GetNear(const QnGePoint& point);
+
+    static bool IsIn(const QnGeTINTriangle& triangle);
 
     enum class Asked { NO, YES, UNSURE };
     /// Whether a search for a point comes to the triangle and finds its box to hold it.
@@ -61,6 +64,7 @@ private:
 
     QnGeQuadTree2d& m_root;
     QnGeQuadTree2d* m_last;  ///< the cell touched last
+    bool m_isPlain = false;
 };
 
 }  // namespace qn_detail

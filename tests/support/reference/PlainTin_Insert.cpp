@@ -157,26 +157,24 @@ bool PlainTin::InsertBefore(Index i, NodePtr& node) {
 }
 
 bool PlainTin::InsertOnEdge(Index i, NodePtr& node) {
-    const PlainNode* const a = StartOf(i);
-    const PlainNode* const b = EndOf(i);
+    PlainNode* const a = OutEdgeList[i]->Node;
+    PlainNode* const b = OutEdgeList[i + 1 < OutEdgeList.size() ? i + 1 : 0]->Node;
     PlainTrg* const tri = OutEdgeList[i]->Triangle;
     OutEdgeList.erase(OutEdgeList.begin() + static_cast<std::ptrdiff_t>(i));
     const long ia = tri->GetNodeIndex(a);
     const long ib = tri->GetNodeIndex(b);
     const long ic = 3 - ia - ib;
-    PlainNode* const nodeA = tri->Node[ia];
-    PlainNode* const nodeB = tri->Node[ib];
-    PlainNode* const nodeC = tri->Node[ic];
+    PlainNode* const c = tri->Node[ic];
     PlainTrg* const nearB = tri->NearTrg[ib];
     PlainOutEdge* const outB = tri->OutEdge[ib];
     PlainTrg* const nearC = tri->NearTrg[ic];
     PlainOutEdge* const outC = tri->OutEdge[ic];
     PlainNode* const p = node.get();
     PlainTrg* const made = NewTriangle();
-    SetNodes(tri, p, nodeB, nodeC);
+    SetNodes(tri, p, b, c);
     SetNear(tri, nullptr, nearB, made);
     SetOut(tri, nullptr, outB, nullptr);
-    SetNodes(made, p, nodeC, nodeA);
+    SetNodes(made, p, c, a);
     SetNear(made, tri, nearC, nullptr);
     SetOut(made, nullptr, outC, nullptr);
     Replace(nearC, tri, made);
