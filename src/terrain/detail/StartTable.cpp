@@ -25,9 +25,7 @@ void StartTable::Reset(const QnGeExtent2d& range, long nodeNum) {
         cellNum *= 2;
     }
     m_entries.Clear();
-    for (long i = 0; i < ENTRIES_TO_CELL * cellNum; ++i) {
-        m_entries.Append({0.0, 0.0, nullptr});
-    }
+    m_entryNum = ENTRIES_TO_CELL * cellNum;
     m_x = range.x.min;
     m_y = range.y.min;
     m_scale = static_cast<double>(cellNum) / (range.GetLength() + range.GetHeight());
@@ -35,16 +33,22 @@ void StartTable::Reset(const QnGeExtent2d& range, long nodeNum) {
 
 long StartTable::IndexOf(const QnGePoint& place) const {
     constexpr std::uint64_t ROW = 0x9E3779B97F4A7C15ULL;  // odd, without a pattern: rows share few entries
-    const long entryNum = m_entries.GetLength();
-    const std::uint64_t column = CellOf(place.x - m_x, m_scale, entryNum);
-    const std::uint64_t row = CellOf(place.y - m_y, m_scale, entryNum);
-    return static_cast<long>((column + row * ROW) & static_cast<std::uint64_t>(entryNum - 1));
+    const std::uint64_t column = CellOf(place.x - m_x, m_scale, m_entryNum);
+    const std::uint64_t row = CellOf(place.y - m_y, m_scale, m_entryNum);
+    return static_cast<long>((column + row * ROW) & static_cast<std::uint64_t>(m_entryNum - 1));
 }
 
 void StartTable::Keep(const QnGePoint& place, QnGeTINTriangle* triangle) {
-    if (!m_entries.IsEmpty()) {
-        m_entries[IndexOf(place)] = {place.x, place.y, triangle};
+    if (m_entryNum == 0) {
+        return;
     }
+    if (m_entries.IsEmpty()) {
+        m_entries = PodArray<Entry>(m_entryNum);
+        for (Entry& entry : m_entries) {
+            entry = {0.0, 0.0, nullptr};
+        }
+    }
+    m_entries[IndexOf(place)] = {place.x, place.y, triangle};
 }
 
 QnGeTINTriangle* StartTable::Get(const QnGePoint& place) const {

@@ -13,7 +13,7 @@ namespace qn_detail {
 /// of which the tree says little.
 ///
 /// Ownership  Triangles are looked at; they must live as long as this.
-/// Cost       One step. Of two triangles at one entry the older is forgotten.
+/// Cost       One step. Of two triangles at one entry the older is forgotten. Takes memory when the first is kept.
 class StartTable {
 public:
     /// Empties the table and sets it up for so many nodes spread along the range.
@@ -32,7 +32,8 @@ private:
 
     long IndexOf(const QnGePoint& place) const;
 
-    PodArray<Entry> m_entries;  ///< a power of two
+    PodArray<Entry> m_entries;  ///< m_entryNum, or none yet
+    long m_entryNum = 0;        ///< a power of two
     double m_x = 0.0;
     double m_y = 0.0;
     double m_scale = 0.0;  ///< cells to a unit of length

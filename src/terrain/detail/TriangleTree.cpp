@@ -29,16 +29,16 @@ public:
         m_pTail = m_pCurrent = entry;
         m_nCur = m_nLength++;
         ++m_arrivals;
-        if (m_order != nullptr && (IsOrderIdle() || !m_order->Add(entry))) {
-            m_order.reset();
+        if (m_index != nullptr && (IsIdle() || !m_index->order.Add(entry))) {
+            m_index.reset();
         }
         return entry;
     }
 
     /// Takes an entry out; the cursor is out then.
     void Remove(BoxNode* entry) {
-        if (m_order != nullptr && (IsOrderIdle() || m_order->Take(entry->data) != entry)) {
-            m_order.reset();
+        if (m_index != nullptr && (IsIdle() || m_index->order.Take(entry->data) != entry)) {
+            m_index.reset();
         }
         --m_nLength;
         GoOut();
@@ -50,12 +50,12 @@ public:
 
     /// Appends the boxes that hold a point; `range` is that of the cell.
     void Find(const QnGePoint& point, const QnGeExtent2d& range, BoxResult<QnGeExtent2d>& result) {
-        if (m_order == nullptr && m_nLength > SHORT && ++m_searches > FEW) {
-            MakeOrder(range);
+        if (m_index == nullptr && m_nLength > SHORT && ++m_searches > FEW) {
+            MakeIndex(range);
         }
-        m_idle = 0;
-        if (m_order != nullptr) {
-            m_order->Find(point.x, point.y, result);
+        if (m_index != nullptr) {
+            m_index->changes = 0;
+            m_index->order.Find(point.x, point.y, result);
             return;
         }
         const HoldsPoint isHit{point.x, point.y};
@@ -73,21 +73,27 @@ public:
 
 private:
     static constexpr long SHORT = 128;
-    static constexpr int FEW = 8;
+    static constexpr std::uint32_t FEW = 8;
 
-    bool IsOrderIdle() { return ++m_idle > FEW * m_nLength; }
-    void MakeOrder(const QnGeExtent2d& range) {
+    struct Index {
+        BoxOrder order;
+        long changes = 0;  ///< since the last search
+
+        explicit Index(const QnGeExtent2d& range) : order(range) {}
+    };
+
+    bool IsIdle() { return ++m_index->changes > FEW * m_nLength; }
+    void MakeIndex(const QnGeExtent2d& range) {
         m_searches = 0;
-        m_order = std::make_unique<BoxOrder>(range);
+        m_index = std::make_unique<Index>(range);
         for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
-            m_order->Add(node);
+            m_index->order.Add(node);
         }
     }
 
     std::uint32_t m_arrivals = 0;
-    int m_searches = 0;  ///< without an index
-    long m_idle = 0;     ///< changes since the last search
-    std::unique_ptr<BoxOrder> m_order;
+    std::uint32_t m_searches = 0;  ///< without an index
+    std::unique_ptr<Index> m_index;
 };
 
 }  // namespace
