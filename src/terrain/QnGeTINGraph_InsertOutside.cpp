@@ -143,6 +143,18 @@ long QnGeTINGraph::FindAndRotateEdge(QnGeTINNode* node, long& index) {
     return count;
 }
 
+namespace {
+
+/// A record leaves the ring. In a network that has come apart, with a triangle that is its own neighbour, other edges of
+/// its triangle may show it too.
+void ForgetRecord(QnGeTINTriangle* triangle, const QnGeTINOutEdge* record) {
+    for (QnGeTINOutEdge*& out : triangle->OutEdge) {
+        out = out == record ? nullptr : out;
+    }
+}
+
+}  // namespace
+
 /// Joins the node to the run of facing edges round `index`, each of which gets a triangle.
 void QnGeTINGraph::JoinHullEdges(QnGeTINNode* node, long index) {
     const long count = FindAndRotateEdge(node, index);
@@ -161,6 +173,7 @@ void QnGeTINGraph::JoinHullEdges(QnGeTINNode* node, long index) {
         const long k = inner->GetNodeIndex(a);
         inner->NearTrg[k] = outer;
         inner->OutEdge[k] = nullptr;
+        ForgetRecord(inner, *entry);
         if (lastNew != nullptr) {
             lastNew->NearTrg[0] = outer;
             outer->NearTrg[2] = lastNew;
@@ -214,7 +227,9 @@ bool QnGeTINGraph::JoinHullLine(QnGeTINNode* node, long index) {
 /// Splits hull edge `index` from a to b, and the triangle a b c on it, in two: p b c, which the old one becomes, and
 /// the new p c a.
 void QnGeTINGraph::SplitHullEdge(QnGeTINNode* node, long index, QnGeTINNode* from, QnGeTINNode* to) {
-    QnGeTINTriangle* const triangle = (*OutEdgeList.GetTo(index))->Triangle;
+    const QnGeTINOutEdge* const record = *OutEdgeList.GetTo(index);
+    QnGeTINTriangle* const triangle = record->Triangle;
+    ForgetRecord(triangle, record);
     OutEdgeList.Del(index);
     const long edgeAB = triangle->GetNodeIndex(from);
     const long edgeBC = triangle->GetNodeIndex(to);

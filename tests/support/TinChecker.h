@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <map>
 #include <memory>
-#include <set>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -281,11 +280,8 @@ inline std::string CompareTin(const OpenTin& graph, const PlainTin& plain) {
     for (std::size_t i = 0; i < triangles.size(); ++i) {
         same.emplace(triangles[i], plain.TrgList[i].get());
     }
-    // A triangle of a network that has come apart may point to a record that is gone, whose memory may serve a new one.
-    std::set<const void*> records;
     for (std::size_t i = 0; i < ring.size(); ++i) {
         same.emplace(ring[i], plain.OutEdgeList[i].get());
-        records.insert(plain.OutEdgeList[i].get());
     }
     for (std::size_t i = 0; i < triangles.size(); ++i) {
         const QnGeTINTriangle& t = *triangles[i];
@@ -296,9 +292,7 @@ inline std::string CompareTin(const OpenTin& graph, const PlainTin& plain) {
                 return At(where, "another node at ", j, ": ", t.Node[j]->x, ',', t.Node[j]->y, " instead of ",
                           p.Node[j]->x, ',', p.Node[j]->y);
             }
-            const bool isRecordGone = p.OutEdge[j] != nullptr && records.count(p.OutEdge[j]) == 0;
-            const bool hasRecord = same[t.OutEdge[j]] == p.OutEdge[j] || isRecordGone;
-            if (same[t.NearTrg[j]] != p.NearTrg[j] || !hasRecord) {
+            if (same[t.NearTrg[j]] != p.NearTrg[j] || same[t.OutEdge[j]] != p.OutEdge[j]) {
                 return At(where, "another neighbour or hull record at ", j);
             }
         }

@@ -140,6 +140,7 @@ bool PlainTin::InsertBefore(Index i, NodePtr& node) {
         const long k = tri->GetNodeIndex(a);
         tri->NearTrg[k] = made;
         tri->OutEdge[k] = nullptr;
+        ForgetRecord(tri, OutEdgeList[i].get());
         if (lastNew != nullptr) {
             lastNew->NearTrg[0] = made;
             made->NearTrg[2] = lastNew;
@@ -160,6 +161,7 @@ bool PlainTin::InsertOnEdge(Index i, NodePtr& node) {
     PlainNode* const a = OutEdgeList[i]->Node;
     PlainNode* const b = OutEdgeList[i + 1 < OutEdgeList.size() ? i + 1 : 0]->Node;
     PlainTrg* const tri = OutEdgeList[i]->Triangle;
+    ForgetRecord(tri, OutEdgeList[i].get());
     OutEdgeList.erase(OutEdgeList.begin() + static_cast<std::ptrdiff_t>(i));
     const long ia = tri->GetNodeIndex(a);
     const long ib = tri->GetNodeIndex(b);
