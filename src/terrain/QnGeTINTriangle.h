@@ -5,7 +5,6 @@
 #include <cstdint>
 
 #include "base/QnBitData.h"
-#include "containers/QnList.h"
 #include "containers/impl/Pieces.h"
 #include "frame/QnGeApi.h"
 #include "values/QnGeExtent2d.h"
@@ -17,7 +16,7 @@ class QnGeTINNode;
 class QnGeTINOutEdge;
 
 namespace qn_detail {
-class TriangleTree;
+struct TreePlace;
 }  // namespace qn_detail
 
 /// Bits of a triangle's flag word.
@@ -40,8 +39,8 @@ enum : std::uint32_t {
 /// Ownership  Owns nothing: nodes, triangles and hull records are the graph's.
 /// Invariant  The circle is computed when it is asked for. Whoever changes a node sets Radius to -1, as PushLOP does.
 class QUARNGEO_API QnGeTINTriangle : public QnGeExtent2d, public QnBitData {
-    friend class qn_detail::TriangleTree;
-    std::uint32_t m_arrival = 0;  ///< in the list of its cell; first, for it fits in behind the flag word
+    friend struct qn_detail::TreePlace;
+    std::uint32_t m_place = 0;  ///< in the list of its cell; first, for it fits in behind the flag word
 
 public:
     QnGeTINNode* Node[3] = {nullptr, nullptr, nullptr};
@@ -104,16 +103,15 @@ public:
     bool CanSwapDiagonalLine() const;
 
 private:
-    /// Where the triangle stands in the tree of its network. A copy stands nowhere.
-    struct TreePlace {
+    /// The cell of the network's tree in which the triangle stands. A copy stands nowhere.
+    struct TreeCell {
         QnGeQuadTree2d* cell = nullptr;
-        QnDListNode<QnGeExtent2d*>* entry = nullptr;  ///< of the cell's list; null for the single one of a leaf
 
-        TreePlace() = default;
-        TreePlace(const TreePlace&) {}
-        TreePlace& operator=(const TreePlace&) { return *this; }
+        TreeCell() = default;
+        TreeCell(const TreeCell&) {}
+        TreeCell& operator=(const TreeCell&) { return *this; }
     };
-    TreePlace m_place;
+    TreeCell m_cell;
 
     double DistanceTo(const QnGePoint& p) const;
     void ComputeCircle();

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "terrain/detail/TriangleTree.h"
 
-#include <memory>
-
-#include "containers/QnList.h"
-#include "spatial/detail/BoxOrder.h"
 #include "spatial/detail/BoxTree.h"
-#include "terrain/QnGeTINTriangle.h"
+#include "terrain/detail/TreePlace.h"
+#include "terrain/detail/TriangleList.h"
 
 namespace qn_detail {
 
@@ -14,87 +11,11 @@ namespace {
 
 using Tree = QnGeQuadTree2d;
 using Sectors = PlanSectors<Tree>;
+using PlainWork = BoxTree<Tree, Sectors, PlainBoxLists<Tree, Sectors>>;
 
-/// The list of a cell: one that an entry leaves at once.
-///
-/// It is searched seldom. But where all triangles of a network are in one list, and the searches are many, going
-/// through it would be most of the work; so it gets an index once that has cost a few times its length, and loses it
-/// when more changes than that pass without a search.
-class TriangleList final : public QnList<QnGeExtent2d*> {
-public:
-    /// Appends a box, with the cursor on it as appending leaves it.
-    BoxNode* Add(QnGeExtent2d* box) {
-        auto* const entry = new BoxNode(box);
-        LinkBefore(entry, m_pHead);
-        m_pTail = m_pCurrent = entry;
-        m_nCur = m_nLength++;
-        ++m_arrivals;
-        if (m_index != nullptr && (IsIdle() || !m_index->order.Add(entry))) {
-            m_index.reset();
-        }
-        return entry;
-    }
-
-    /// Takes an entry out; the cursor is out then.
-    void Remove(BoxNode* entry) {
-        if (m_index != nullptr && (IsIdle() || m_index->order.Take(entry->data) != entry)) {
-            m_index.reset();
-        }
-        --m_nLength;
-        GoOut();
-        DropHint();
-        Unlink(entry);
-        delete entry;
-        m_pTail = m_pHead->previous;
-    }
-
-    /// Appends the boxes that hold a point; `range` is that of the cell.
-    void Find(const QnGePoint& point, const QnGeExtent2d& range, BoxResult<QnGeExtent2d>& result) {
-        if (m_index == nullptr && m_nLength > SHORT && ++m_searches > FEW) {
-            MakeIndex(range);
-        }
-        if (m_index != nullptr) {
-            m_index->changes = 0;
-            m_index->order.Find(point.x, point.y, result);
-            return;
-        }
-        const HoldsPoint isHit{point.x, point.y};
-        for (const BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
-            if (isHit(*node->data)) {
-                AppendTo(result, node->data);
-            }
-        }
-    }
-
-    std::uint32_t GetArrivals() const { return m_arrivals; }
-
-    static void* operator new(std::size_t bytes) { return TakePiece(bytes); }
-    static void operator delete(void* list, std::size_t bytes) { GivePiece(list, bytes); }
-
-private:
-    static constexpr long SHORT = 128;
-    static constexpr std::uint32_t FEW = 8;
-
-    struct Index {
-        BoxOrder order;
-        long changes = 0;  ///< since the last search
-
-        explicit Index(const QnGeExtent2d& range) : order(range) {}
-    };
-
-    bool IsIdle() { return ++m_index->changes > FEW * m_nLength; }
-    void MakeIndex(const QnGeExtent2d& range) {
-        m_searches = 0;
-        m_index = std::make_unique<Index>(range);
-        for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
-            m_index->order.Add(node);
-        }
-    }
-
-    std::uint32_t m_arrivals = 0;
-    std::uint32_t m_searches = 0;  ///< without an index
-    std::unique_ptr<Index> m_index;
-};
+TriangleList& ListOf(Tree& cell) {
+    return static_cast<TriangleList&>(*cell.ExtentList);
+}
 
 }  // namespace
 
@@ -124,24 +45,20 @@ struct TriangleTree::Kind {
         if (cell.ExtentList == nullptr) {
             cell.ExtentList = new TriangleList;
         }
-        auto* const list = static_cast<TriangleList*>(cell.ExtentList);
         auto* const triangle = static_cast<QnGeTINTriangle*>(item);
-        triangle->m_arrival = list->GetArrivals();
-        triangle->m_place.cell = &cell;
-        triangle->m_place.entry = list->Add(item);
+        TreePlace::SetCell(*triangle, &cell);
+        ListOf(cell).Add(triangle, cell);
     }
 
     static void PutOne(Tree& cell, Item* item) {
         auto* const triangle = static_cast<QnGeTINTriangle*>(item);
         cell.OneExtent = item;
-        triangle->m_place.cell = &cell;
-        triangle->m_place.entry = nullptr;
+        TreePlace::SetCell(*triangle, &cell);
+        TreePlace::SetPlace(*triangle, TreePlace::NO_PLACE);
     }
 };
 
 struct TriangleTree::Work : SectorTree<Kind> {};
-
-using PlainWork = BoxTree<Tree, Sectors, PlainBoxLists<Tree, Sectors>>;
 
 /// Follows an insertion down.
 struct TriangleTree::Steps {
@@ -173,7 +90,7 @@ void TriangleTree::ClimbTo(const Item& item) {
 }
 
 void TriangleTree::Insert(QnGeTINTriangle* triangle) {
-    m_isPlain = m_isPlain || triangle->m_place.cell != nullptr;
+    m_isPlain = m_isPlain || TreePlace::CellOf(*triangle) != nullptr;
     if (m_isPlain) {
         PlainWork::Insert(m_root, triangle);
         return;
@@ -188,21 +105,20 @@ void TriangleTree::Delete(QnGeTINTriangle* triangle) {
         PlainWork::Take(m_root, triangle);
         return;
     }
-    Tree* cell = triangle->m_place.cell;
+    Tree* cell = TreePlace::CellOf(*triangle);
     if (cell == nullptr) {
         return;
     }
-    if (triangle->m_place.entry == nullptr) {
+    if (TreePlace::PlaceOf(*triangle) == TreePlace::NO_PLACE) {
         cell->OneExtent = nullptr;
     } else {
-        auto* const list = static_cast<TriangleList*>(cell->ExtentList);
-        list->Remove(triangle->m_place.entry);
-        if (list->IsEmpty()) {
-            delete list;
+        ListOf(*cell).Remove(triangle);
+        if (cell->ExtentList->IsEmpty()) {
+            delete &ListOf(*cell);
             cell->ExtentList = nullptr;
         }
     }
-    triangle->m_place.cell = nullptr;
+    TreePlace::SetCell(*triangle, nullptr);
     while (cell != &m_root && Work::IsEmpty(*cell)) {
         Tree& parent = ParentOf(*cell);
         for (Tree*& child : parent.Child) {
@@ -228,8 +144,8 @@ WalkStart TriangleTree::GetNear(const QnGePoint& point) {
         if (cell->OneExtent != nullptr) {
             return {static_cast<QnGeTINTriangle*>(cell->OneExtent), FEW_STEPS};
         }
-        if (const QnList<QnGeExtent2d*>* const list = cell->ExtentList) {
-            return {static_cast<QnGeTINTriangle*>(*list->GetLast()), FEW_STEPS + list->GetLength()};
+        if (cell->ExtentList != nullptr) {
+            return {ListOf(*cell).GetLastTriangle(), FEW_STEPS + cell->ExtentList->GetLength()};
         }
         if (cell == &m_root) {
             return {};
@@ -253,33 +169,37 @@ void TriangleTree::HitTestFrom(Tree& cell, const QnGePoint& point, QnDynArray<Qn
         AppendTo(result, cell.OneExtent);
     }
     if (cell.ExtentList != nullptr) {
-        static_cast<TriangleList*>(cell.ExtentList)->Find(point, cell, result);
+        ListOf(cell).Find(point, cell, result);
     }
 }
 
 bool TriangleTree::IsIn(const QnGeTINTriangle& triangle) {
-    return triangle.m_place.cell != nullptr;
+    return TreePlace::CellOf(triangle) != nullptr;
 }
 
 TriangleTree::Asked TriangleTree::IsAsked(const QnGeTINTriangle& triangle, const QnGePoint& point) {
-    const Tree* const cell = triangle.m_place.cell;
+    Tree* const cell = TreePlace::CellOf(triangle);
     if (cell == nullptr || !cell->IsInside(point.x, point.y)) {
         return Asked::UNSURE;
     }
-    const bool isReached = triangle.m_place.entry != nullptr || Work::SectorOf(*cell, point) != NO_SECTOR;
+    const bool isSingle = TreePlace::PlaceOf(triangle) == TreePlace::NO_PLACE;
+    if (!isSingle && !ListOf(*cell).IsInRow()) {
+        return Asked::UNSURE;
+    }
+    const bool isReached = !isSingle || Work::SectorOf(*cell, point) != NO_SECTOR;
     return isReached && triangle.IsInclude(point.x, point.y) ? Asked::YES : Asked::NO;
 }
 
 bool TriangleTree::IsBefore(const QnGeTINTriangle& a, const QnGeTINTriangle& b) {
-    const auto& placeA = a.m_place;
-    const auto& placeB = b.m_place;
-    if (placeA.cell != placeB.cell) {
-        return placeA.cell->GetLength() < placeB.cell->GetLength();
+    const Tree* const cellA = TreePlace::CellOf(a);
+    const Tree* const cellB = TreePlace::CellOf(b);
+    if (cellA != cellB) {
+        return cellA->GetLength() < cellB->GetLength();
     }
-    if (placeA.entry == nullptr || placeB.entry == nullptr) {
-        return placeA.entry == nullptr;
+    if (TreePlace::PlaceOf(a) == TreePlace::NO_PLACE || TreePlace::PlaceOf(b) == TreePlace::NO_PLACE) {
+        return TreePlace::PlaceOf(a) == TreePlace::NO_PLACE;
     }
-    return a.m_arrival < b.m_arrival;
+    return TreePlace::PlaceOf(a) < TreePlace::PlaceOf(b);
 }
 
 }  // namespace qn_detail
