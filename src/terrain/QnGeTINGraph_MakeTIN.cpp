@@ -16,7 +16,25 @@
 
 namespace {
 
-constexpr long AHEAD = 8;  ///< nodes lie in memory in the given order, so the next are fetched in time
+// Nodes lie in memory in the given order, so the next are fetched in time, and then where their walks begin.
+constexpr long NODES_AHEAD = 8;
+constexpr long STARTS_AHEAD = 2;
+
+/// Goes ahead of a queue; null behind its end.
+class Scout {
+public:
+    Scout(const QnList<QnGeTINNode*>& nodes, long ahead) : m_nodes(nodes), m_entry(nodes.GetTo(ahead)) {}
+
+    const QnGeTINNode* Next() {
+        const QnGeTINNode* const node = m_entry != nullptr ? *m_entry : nullptr;
+        m_entry = m_nodes.GetNext(m_entry);
+        return node;
+    }
+
+private:
+    const QnList<QnGeTINNode*>& m_nodes;
+    QnGeTINNode* const* m_entry;
+};
 
 }  // namespace
 
@@ -37,16 +55,13 @@ void QnGeTINGraph::MakeTIN() {
     QnList<QnGeTINNode*> nodes;
     nodes.Conbine(NodeList, 0);
     qn_detail::SortForInsertion(nodes, NodeTree);
-    QnGeTINNode* const* ahead = nodes.GetTo(AHEAD);
-    QnGeTINNode* const* soon = nodes.GetTo(2);
+    Scout far(nodes, NODES_AHEAD);
+    Scout near(nodes, STARTS_AHEAD);
     while (!nodes.IsEmpty()) {
-        if (ahead != nullptr) {
-            __builtin_prefetch(*ahead);
-            ahead = nodes.GetNext(ahead);
-        }
+        qn_detail::ReadAhead(far.Next());
+        const QnGeTINNode* const soon = near.Next();
         if (soon != nullptr) {
-            m_finder->ReadAhead(**soon);
-            soon = nodes.GetNext(soon);
+            m_finder->ReadAhead(*soon);
         }
         QnGeTINNode* const node = *nodes.GetFirst();
         nodes.DelHead();

@@ -26,7 +26,8 @@
 //            off the convex by less than that angle times its extent.
 //            The triangle that has P to its left by more than the tolerance also has it in its box by more, so the way
 //            down the tree that brought the box into its cell brings P there too.
-// Invariant  Whatever was not sure once makes the finder unsure for good.
+//            None of this holds for what was learned under another tolerance.
+// Invariant  What was not sound once makes the finder unsure for good.
 // Cost       The steps of the walk.
 #include "terrain/detail/TriangleFinder.h"
 
@@ -41,11 +42,11 @@ namespace qn_detail {
 
 namespace {
 
-constexpr long FAR_START = 256;            ///< steps for which a nearer start is worth looking up
-constexpr double SHORTEST_EDGE = 4.0;    ///< in tolerances
-constexpr double CLEAR = 16.0;           ///< of triangles, in tolerances
-constexpr double CLEAR_OF_LINES = 8.0;   ///< of hull edges' lines, in tolerances times the stretch
-constexpr double CLEAR_OF_SLACK = 4.0;   ///< in slacks times the extent
+constexpr long FAR_START = 256;             ///< steps for which a nearer start is worth looking up
+constexpr double SHORTEST_EDGE = 4.0;       ///< in tolerances
+constexpr double CLEAR = 16.0;              ///< of triangles, in tolerances
+constexpr double CLEAR_OF_LINES = 8.0;      ///< of hull edges' lines, in tolerances times the stretch
+constexpr double CLEAR_OF_SLACK = 4.0;      ///< in slacks times the extent
 constexpr double ROUNDING = 1e-13;          ///< of a cross product, beside the square of the size
 constexpr double ROUNDING_OF_TURN = 1e-15;  ///< of the sine of an angle
 
@@ -128,7 +129,8 @@ void TriangleFinder::LearnTriangle(const QnGeTINTriangle& t) {
                          SquareOf(*t.Node[0], *t.Node[1]) > shortestSquare &&
                          SquareOf(*t.Node[1], *t.Node[2]) > shortestSquare &&
                          SquareOf(*t.Node[2], *t.Node[0]) > shortestSquare;
-    m_isSound = m_isSound && isSound;
+    m_isSound = m_isSound && isSound && (g_distZero == m_tolerance || m_tolerance == 0.0);
+    m_tolerance = g_distZero;
     LearnHullEdges(t);
 }
 
@@ -194,7 +196,7 @@ double TriangleFinder::GetMargin(const QnGeExtent2d& range) const {
 
 bool TriangleFinder::Find(const QnGeTINNode& node, const WalkStart& start, const QnGeExtent2d& range,
                           TriangleHit& hit) {
-    if (!m_isSound || !(g_distZero > 0.0) || start.triangle == nullptr) {
+    if (!m_isSound || !(g_distZero > 0.0) || g_distZero != m_tolerance || start.triangle == nullptr) {
         return false;
     }
     const double margin = GetMargin(range);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "containers/QnPDList.h"
+#include "spatial/detail/ReadAhead.h"
 #include "terrain/QnGeTINNode.h"
 #include "terrain/QnGeTINOutEdge.h"
 #include "terrain/detail/StartTable.h"
@@ -34,13 +35,8 @@ public:
     /// Fails     False if it is not sure what the tree would answer.
     bool Find(const QnGeTINNode& node, const WalkStart& start, const QnGeExtent2d& range, TriangleHit& hit);
 
-    void ReadAhead(const QnGePoint& p) const {
-        if (const QnGeTINTriangle* t = m_starts.Get(p)) {
-            __builtin_prefetch(t);
-            __builtin_prefetch(reinterpret_cast<const char*>(t) + 64);
-            __builtin_prefetch(reinterpret_cast<const char*>(t) + 128);
-        }
-    }
+    /// Asks for the memory at which a walk to a node that comes soon would begin.
+    void ReadAhead(const QnGePoint& place) const { qn_detail::ReadAhead(m_starts.Get(place)); }
 
 private:
     double GetMargin(const QnGeExtent2d& range) const;
@@ -48,6 +44,7 @@ private:
     void LearnTurn(const QnGePoint& a, const QnGePoint& b, const QnGePoint& c);
 
     bool m_isSound = true;      ///< all triangles surely run counter-clockwise and no edge is near the tolerance
+    double m_tolerance = 0.0;   ///< under which all was learned; 0 before
     double m_stretch = 1.0;     ///< square of the largest size of a triangle on the hull in lengths of its hull edge
     double m_slack = 0.0;       ///< by what angle the hull turns to the right in all, at most
     long m_sizeToRefresh = 16;  ///< number of nodes at which the stretch is taken anew

@@ -90,7 +90,10 @@ void TriangleTree::ClimbTo(const Item& item) {
 }
 
 void TriangleTree::Insert(QnGeTINTriangle* triangle) {
-    m_isPlain = m_isPlain || TreePlace::CellOf(*triangle) != nullptr;
+    if (Work::IsEmpty(m_root)) {
+        m_tolerance = g_distZero;
+    }
+    m_isPlain = m_isPlain || g_distZero != m_tolerance || TreePlace::CellOf(*triangle) != nullptr;
     if (m_isPlain) {
         PlainWork::Insert(m_root, triangle);
         return;
@@ -101,6 +104,7 @@ void TriangleTree::Insert(QnGeTINTriangle* triangle) {
 }
 
 void TriangleTree::Delete(QnGeTINTriangle* triangle) {
+    m_isPlain = m_isPlain || g_distZero != m_tolerance;
     if (m_isPlain) {
         PlainWork::Take(m_root, triangle);
         return;

@@ -29,7 +29,8 @@ class TriangleTree {
 public:
     explicit TriangleTree(QnGeQuadTree2d& root) : m_root(root), m_last(&root) {}
 
-    /// From now on all is done from the root and by going through lists, whatever others have done to the tree.
+    /// From now on all is done from the root and by going through lists, whatever others have done to the tree. It
+    /// comes to this by itself when the tolerance changes.
     void GoPlain() { m_isPlain = true; }
 
     /// Puts a triangle in under its present box. One that is in already, as can happen in a network that has come
@@ -65,6 +66,7 @@ private:
     QnGeQuadTree2d& m_root;
     QnGeQuadTree2d* m_last;  ///< the cell touched last
     bool m_isPlain = false;
+    double m_tolerance = 0.0;  ///< under which the triangles went in: another one finds other ways down
 };
 
 }  // namespace qn_detail
