@@ -22,11 +22,11 @@ QnGeQuadTree2d* LoneChild(const QnGeQuadTree2d& node) {
 }  // namespace
 
 void* QnGeQuadTree2d::operator new(std::size_t bytes) {
-    return qn_detail::TakePiece(bytes);
+    return qn_detail::TakePiece(qn_detail::InWholeLines(bytes));
 }
 
 void QnGeQuadTree2d::operator delete(void* tree, std::size_t bytes) {
-    qn_detail::GivePiece(tree, bytes);
+    qn_detail::GivePiece(tree, qn_detail::InWholeLines(bytes));
 }
 
 QnGeQuadTree2d::QnGeQuadTree2d() : CenterX(0.0), CenterY(0.0) {

@@ -8,14 +8,21 @@
 // back, its slabs are cut anew from the first on: a list of pieces in the order in which a large structure was deleted
 // would scatter the next one all over them.
 //
-// Invariant  A piece is a multiple of GRAIN long and lies at a multiple of the largest power of two up to 16 that
-//            divides its length.
+// Large slabs stand side by side in regions that the system may map as one page each: a structure of many megabytes is
+// read all over, and would wait for the addresses of its small pages about as long as for what stands there.
+//
+// Invariant  A piece is a multiple of GRAIN long and lies at a multiple of the largest power of two up to CACHE_LINE
+//            that divides its length. So one of a whole number of cache lines touches no more of them.
 // Why so     The library runs one call at a time, so the lists need no lock.
 // Ownership  Slabs stay until the program ends: what was freed serves whatever comes next of that size.
 // Cost       A few instructions to take or give, no bytes beside the piece.
 #include "containers/impl/Pieces.h"
 
 #include <new>
+
+#if defined(__linux__)
+#include <sys/mman.h>
+#endif
 
 #if defined(__SANITIZE_ADDRESS__)
 #define QN_PIECES_FROM_HEAP 1
@@ -47,14 +54,17 @@ constexpr std::size_t GRAIN = 8;
 constexpr std::size_t MOST_BYTES = 512;  ///< larger objects come from the heap, which can make them of others
 constexpr std::size_t FIRST_SLAB = 4096;
 constexpr std::size_t LARGEST_SLAB = std::size_t{1} << 18;
-constexpr std::size_t SLAB_ALIGNMENT = 16;
+constexpr std::size_t CACHE_LINE = 64;
+constexpr std::size_t REGION = std::size_t{1} << 21;
+constexpr std::size_t FEWEST_LARGE = 8;  ///< large slabs before the first region: small programs need none
+static_assert(REGION % LARGEST_SLAB == 0, "regions are cut up without rest");
 
 struct Free {
     Free* next;
 };
 
 /// The head of a slab; pieces follow it.
-struct alignas(SLAB_ALIGNMENT) Slab {
+struct alignas(CACHE_LINE) Slab {
     Slab* next;
     std::size_t bytes;
 };
@@ -71,6 +81,39 @@ struct Shelf {
 
 Shelf g_shelves[MOST_BYTES / GRAIN + 1] = {};
 
+/// The region that is cut up.
+struct Region {
+    char* cut;
+    char* end;
+    std::size_t largeSlabs;  ///< made so far, in regions or not
+};
+
+Region g_region = {};
+
+void* AllocateAligned(std::size_t bytes, std::size_t alignment) {
+    return ::operator new (bytes, std::align_val_t{alignment});
+}
+
+void MakeRegion() {
+    g_region.cut = static_cast<char*>(AllocateAligned(REGION, REGION));
+    g_region.end = g_region.cut + REGION;
+#if defined(MADV_HUGEPAGE)
+    static_cast<void>(madvise(g_region.cut, REGION, MADV_HUGEPAGE));  // a hint: small pages serve as well
+#endif
+}
+
+void* TakeLargeSlab() {
+    if (g_region.largeSlabs++ < FEWEST_LARGE) {
+        return AllocateAligned(LARGEST_SLAB, CACHE_LINE);
+    }
+    if (g_region.cut == g_region.end) {
+        MakeRegion();
+    }
+    void* const slab = g_region.cut;
+    g_region.cut += LARGEST_SLAB;
+    return slab;
+}
+
 /// Cuts `slab` from its beginning.
 void Cut(Shelf& shelf, Slab* slab) {
     shelf.slab = slab;
@@ -81,8 +124,7 @@ void Cut(Shelf& shelf, Slab* slab) {
 Slab* MakeSlab(std::size_t before) {
     const std::size_t doubled = before == 0 ? FIRST_SLAB : 2 * before;
     const std::size_t bytes = doubled > LARGEST_SLAB ? LARGEST_SLAB : doubled;
-    static_assert(__STDCPP_DEFAULT_NEW_ALIGNMENT__ >= SLAB_ALIGNMENT, "slabs serve every piece");
-    return new (::operator new(bytes)) Slab{nullptr, bytes};
+    return new (bytes == LARGEST_SLAB ? TakeLargeSlab() : AllocateAligned(bytes, CACHE_LINE)) Slab{nullptr, bytes};
 }
 
 void* CutPiece(Shelf& shelf, std::size_t length) {

@@ -8,7 +8,7 @@
 namespace qn_detail {
 
 /// Memory for one small object out of a free list of its size. It suits any object whose size is a multiple of its
-/// alignment and whose alignment is at most 16.
+/// alignment and whose alignment is at most 16. One of a whole number of cache lines begins with one.
 ///
 /// Ownership  Goes back through GivePiece with the same size.
 /// See        Pieces.cpp

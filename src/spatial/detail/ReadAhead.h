@@ -6,12 +6,19 @@
 
 namespace qn_detail {
 
-/// Asks for an object that will be read soon, so that it comes while something else is done. Null does no harm.
+constexpr std::size_t CACHE_LINE = 64;
+
+/// A size, rounded up such that an object of it in a piece touches as few cache lines as it can.
+constexpr std::size_t InWholeLines(std::size_t bytes) {
+    return (bytes + CACHE_LINE - 1) / CACHE_LINE * CACHE_LINE;
+}
+
+/// Asks for an object that will be read soon, so that it comes while something else is done. Null does no
+/// harm, but takes longer than asking whether it is.
 template <class T>
 void ReadAhead(const T* object) {
     const auto address = reinterpret_cast<std::uintptr_t>(object);
     __builtin_prefetch(reinterpret_cast<const void*>(address));
-    constexpr std::size_t CACHE_LINE = 64;
     if (sizeof(T) > CACHE_LINE / 2) {
         __builtin_prefetch(reinterpret_cast<const void*>(address + sizeof(T) - 1));
     }
