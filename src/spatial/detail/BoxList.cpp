@@ -2,26 +2,30 @@
 //
 // BoxList.cpp: the list of one tree node's boxes, kept so that little memory is touched.
 //
-// What a tree does is mostly waiting for memory: a list node here, the box that it points to there. So the nodes of a
-// list of some length stand in a row, in groups of four with their boxes on a grid over the tree node's range in front:
+// What a tree does is mostly waiting for memory: a list node here, the box that it points to there. So a list has no
+// nodes, as long as nobody but the tree works on it. Its boxes stand in a row of pairs, each box on a grid over the tree
+// node's range beside the pointer to it:
 //
-//      | boxes of 0..3 on the grid | node 0 | node 1 | node 2 | node 3 |   | boxes of 4..7 | node 4 | ...
+//      | 0 on the grid | 1 on the grid | 0 | 1 |   | 2 on the grid | 3 on the grid | 2 | 3 |   ...
 //
-// A search reads the boxes on the grid, then the nodes of those it meets. Most of them are surely met by what the grid
-// says; only for the others the boxes themselves are read. A long list has a BoxOrder and its nodes singly.
+// A search reads the boxes on the grid. Most of those it meets are surely met by what the grid says; only for the others
+// the boxes themselves are read. Most lists have one box or two: their row is in the list object. A long list has
+// a BoxOrder, and nodes.
 //
 // States     in a row   for up to MOST_IN_ROW boxes
 //            ordered    for more
-//            loose      what every other list is, and one of fewer than FEWEST_IN_ROW boxes, which saves memory
-// Phases     An insertion of the tree arranges a loose list; a search leaves the nodes where they are, for a caller may
-//            be going through them. What a caller does to the list by its public
-//            operations loosens it first, so that nodes are single objects when they are passed on or deleted.
-// Invariant  The order of places in a row is the order of the list. A place whose box was taken stays empty until the
-//            row moves; the last place in use is never empty.
-// Cost       32 bytes a place, which holds the list node too.
+//            loose      what every other list is: nodes, and nothing beside them
+// Phases     An insertion of the tree arranges a loose list; a search leaves the elements where they are, for a caller
+//            may be going through them. What a caller does to the list by its public operations loosens it first; only
+//            going through it does not. The row that was left stays until the tree works on the list again: a caller
+//            may hold an element of it, and goes on from there to the nodes.
+// Invariant  The order of the row is that of the list, without gaps. Behind it stand empty boxes. In a row the ring of
+//            nodes is empty, and the cursor is its index alone.
+// Cost       16 bytes a place.
 #include "spatial/detail/BoxList.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <new>
 
 #include "values/detail/BoxLanes.h"
@@ -30,251 +34,246 @@ namespace qn_detail {
 
 BoxList::~BoxList() {
     DropOrder();
-    if (IsInRow()) {
-        FreeRow();
-        m_pHead->next = m_pHead->previous = m_pHead;  // no node is left to the destructor of lists
-    }
+    FreeRow();
 }
 
 // ---- the row ---------------------------------------------------------------------------------------
 
 /// How many places a row of so many boxes gets, with some to spare.
 int BoxList::SpaceFor(long length) {
-    constexpr long SPARE = 8;  // one place for so many boxes
     constexpr long SHORT = 16;
-    const long step = length <= SHORT ? 2 : GridQuad::COUNT;
-    return static_cast<int>((length + length / SPARE + step - 1) / step * step);
+    constexpr long SPARE = 8;  // one place for so many boxes of a row that is not short
+    constexpr long STEP = 4;   // a cache line
+    if (length <= IN_OBJECT) {
+        return IN_OBJECT;
+    }
+    const long enough = length + (length > SHORT ? length / SPARE : 0);
+    const long space = (enough + STEP - 1) / STEP * STEP;
+    return static_cast<int>(space < MOST_IN_ROW ? space : MOST_IN_ROW);
 }
 
 std::size_t BoxList::BytesOf(int space) {
-    const auto groups = static_cast<std::size_t>(space / GridQuad::COUNT);
-    const auto rest = static_cast<std::size_t>(space % GridQuad::COUNT);
-    return groups * sizeof(Group) + (rest > 0 ? sizeof(GridQuad) + rest * sizeof(BoxNode) : 0);
+    return static_cast<std::size_t>(space / GridSearch::PAIR) * sizeof(Pair);
 }
 
-/// A row of empty places.
-BoxList::Group* BoxList::MakeRow(int space) {
-    auto* const row = static_cast<Group*>(TakePiece(BytesOf(space)));
-    for (int place = 0; place < space; ++place) {
-        Group& group = row[place / GridQuad::COUNT];
-        if (place % GridQuad::COUNT == 0) {
-            group.quad.Clear();
-        }
-        ::new (static_cast<void*>(&group.nodes[place % GridQuad::COUNT])) BoxNode;
+QnGeExtent2d* const* BoxList::ElementAt(long place) const {
+    return &GetRow()[place / GridSearch::PAIR].data[place % GridSearch::PAIR];
+}
+
+bool BoxList::IsOfRow(Box* const* element) const {
+    const auto begin = reinterpret_cast<std::uintptr_t>(GetRow());
+    const auto address = reinterpret_cast<std::uintptr_t>(element);
+    return m_space > 0 && address >= begin && address - begin < BytesOf(m_space);
+}
+
+/// Of an element of the row.
+long BoxList::PlaceOf(Box* const* element) const {
+    const std::ptrdiff_t offset = reinterpret_cast<const char*>(element) - reinterpret_cast<const char*>(GetRow());
+    const long pair = static_cast<long>(offset / static_cast<std::ptrdiff_t>(sizeof(Pair)));
+    return pair * GridSearch::PAIR + static_cast<long>(element - GetRow()[pair].data);
+}
+
+/// What an element of a row that was left has become; any other is what it was.
+QnGeExtent2d* const* BoxList::ElementNow(Box* const* element) const {
+    if (!IsOfRow(element)) {
+        return element;
     }
-    return row;
+    const long place = PlaceOf(element);
+    return &GetRow()[place / GridSearch::PAIR].nodes[place % GridSearch::PAIR]->data;
 }
 
-int BoxList::PlaceOf(const BoxNode* node) const {
-    const std::ptrdiff_t offset = reinterpret_cast<const char*>(node) - reinterpret_cast<const char*>(m_row);
-    const auto group = static_cast<int>(offset / static_cast<std::ptrdiff_t>(sizeof(Group)));
-    return group * GridQuad::COUNT + static_cast<int>(node - m_row[group].nodes);
+/// The place of the very object; where it is not, of the first that says it is the same; -1 if there is none.
+long BoxList::FindPlace(const Box* box) const {
+    for (long place = 0; place < m_nLength; ++place) {
+        if (*ElementAt(place) == box) {
+            return place;
+        }
+    }
+    for (long place = 0; place < m_nLength; ++place) {
+        if ((*ElementAt(place))->IsSameWith(box)) {
+            return place;
+        }
+    }
+    return -1;
 }
 
-BoxNode* BoxList::NodeInRow(int place) const {
-    return &m_row[place / GridQuad::COUNT].nodes[place % GridQuad::COUNT];
-}
-
-/// Moves a node of the list to a place, with all links to it.
-void BoxList::PutInRow(int place, const GridBox& box, BoxNode* node) {
-    m_row[place / GridQuad::COUNT].quad.SetBox(place % GridQuad::COUNT, box);
-    BoxNode* const moved = NodeInRow(place);
-    *moved = *node;
-    moved->previous->next = moved;
-    Next(moved)->previous = moved;
-    m_pCurrent = m_pCurrent == node ? moved : m_pCurrent;
-}
-
-/// Moves all nodes, in their order, to a new row.
-void BoxList::MoveRow(int space) {
-    Group* const formerRow = m_row;
-    const int formerSpace = m_space;
-    const int formerEnd = m_end;
-    m_row = MakeRow(space);
+/// Makes a row of empty places.
+void BoxList::MakeRow(int space) {
+    m_state = State::IN_ROW;
     m_space = static_cast<short>(space);
-    m_end = 0;
-    for (int place = 0; place < formerEnd; ++place) {
-        Group& from = formerRow[place / GridQuad::COUNT];
-        const int lane = place % GridQuad::COUNT;
-        if (from.nodes[lane].data != nullptr) {
-            PutInRow(m_end++, from.quad.GetBox(lane), &from.nodes[lane]);
-        }
+    if (space > IN_OBJECT) {
+        m_row = static_cast<Pair*>(TakePiece(BytesOf(space)));
     }
-    m_pTail = m_pHead->previous;
-    DropHint();
-    GivePiece(formerRow, BytesOf(formerSpace));
+    Pair* const row = GetRow();
+    for (int place = 0; place < space; place += GridSearch::PAIR) {
+        ::new (static_cast<void*>(row + place / GridSearch::PAIR))
+            Pair{{{GridBox::Empty(), GridBox::Empty()}}, {nullptr, nullptr}};
+    }
 }
 
 void BoxList::FreeRow() {
-    GivePiece(m_row, BytesOf(m_space));
-    m_row = nullptr;
-    m_space = m_end = 0;
+    if (m_space > IN_OBJECT) {
+        GivePiece(m_row, BytesOf(m_space));
+    }
+    m_space = 0;
 }
 
-/// The first node with this very box, if the box has the coordinates with which it came.
-BoxNode* BoxList::FindInRow(const Box* box) const {
-    const GridBox gridBox = BoxOf(*box);
-    for (int first = 0; first < m_end; first += GridQuad::COUNT) {
-        Group& group = m_row[first / GridQuad::COUNT];
-        for (unsigned equal = group.quad.GetEqual(gridBox); equal != 0;) {
-            const int lane = TakeLowestLane(equal);
-            if (first + lane < m_end && group.nodes[lane].data == box) {
-                return &group.nodes[lane];
-            }
-        }
+/// Moves the boxes to a row with so many places.
+void BoxList::MoveRow(int space) {
+    const Pair inObject = m_pair;
+    const int formerSpace = m_space;
+    const Pair* const former = formerSpace == IN_OBJECT ? &inObject : m_row;
+    MakeRow(space);
+    Pair* const row = GetRow();
+    for (long place = 0; place < m_nLength; place += GridSearch::PAIR) {
+        row[place / GridSearch::PAIR] = former[place / GridSearch::PAIR];
     }
-    return nullptr;
+    if (formerSpace > IN_OBJECT) {
+        GivePiece(const_cast<Pair*>(former), BytesOf(formerSpace));
+    }
 }
 
-/// Gives up the place of a node that is no more in the list.
-void BoxList::LeavePlace(const BoxNode* node) {
-    constexpr int SPARED = 6;  // a row moves to spare one place of so many
-    const int place = PlaceOf(node);
-    m_row[place / GridQuad::COUNT].quad.SetBox(place % GridQuad::COUNT, GridBox::Empty());
-    NodeInRow(place)->data = nullptr;
-    while (m_end > 0 && NodeInRow(m_end - 1)->data == nullptr) {
-        --m_end;
+void BoxList::PutInRow(long place, const GridBox& box, Box* data) {
+    Pair& pair = GetRow()[place / GridSearch::PAIR];
+    pair.boxes[place % GridSearch::PAIR] = box;
+    pair.data[place % GridSearch::PAIR] = data;
+}
+
+/// Those behind move up.
+QnGeExtent2d* BoxList::TakeFromRow(long place) {
+    Pair* const row = GetRow();
+    Box* const taken = *ElementAt(place);
+    for (; place + 1 < m_nLength; ++place) {
+        const Pair& from = row[(place + 1) / GridSearch::PAIR];
+        PutInRow(place, from.boxes[(place + 1) % GridSearch::PAIR], from.data[(place + 1) % GridSearch::PAIR]);
     }
-    if (m_nLength + 1 < FEWEST_IN_ROW) {
-        Loosen();
-    } else if (SPARED * SpaceFor(m_nLength) < m_space * (SPARED - 1)) {
-        MoveRow(SpaceFor(m_nLength));
+    PutInRow(place, GridBox::Empty(), nullptr);
+    --m_nLength;
+    m_nCur = -1;
+    if (2 * SpaceFor(m_nLength + 1) <= m_space) {
+        MoveRow(SpaceFor(m_nLength + 1));
     }
+    return taken;
 }
 
 // ---- the states ------------------------------------------------------------------------------------
 
-/// Puts a loose list in a row or in order.
-void BoxList::Arrange(const Box& range) {
-    if (IsInRow() || IsOrdered() || m_nLength < FEWEST_IN_ROW) {
-        return;
-    }
-    if (m_nLength > MOST_IN_ROW) {
-        m_order = new BoxOrder(range);
-        m_space = IS_ORDERED;
-        for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
-            m_order->Add(node);
-        }
-        return;
-    }
-    static_cast<Grid&>(*this) = Grid(range);
-    const int space = SpaceFor(m_nLength);
-    m_row = MakeRow(space);
-    m_space = static_cast<short>(space);
-    for (BoxNode* node = Next(m_pHead); node != m_pHead;) {
+/// Puts a loose list that is not too long in a row.
+void BoxList::Arrange(const Grid& grid) {
+    static_cast<Grid&>(*this) = grid;
+    FreeRow();
+    MakeRow(SpaceFor(m_nLength));
+    long place = 0;
+    for (BoxNode* node = Next(m_pHead); node != m_pHead; ++place) {
         BoxNode* const following = Next(node);
-        PutInRow(m_end++, BoxOf(*node->data), node);
+        PutInRow(place, BoxOf(*node->data), node->data);
         delete node;
         node = following;
     }
-    m_pTail = m_pHead->previous;
+    m_pHead->next = m_pHead->previous = m_pTail = m_pHead;
     DropHint();
+}
+
+/// Puts a loose list in order.
+void BoxList::Order(const Box& range) {
+    FreeRow();
+    m_order = new BoxOrder(range);
+    m_state = State::ORDERED;
+    for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
+        m_order->Add(node);
+    }
 }
 
 void BoxList::DropOrder() {
     if (IsOrdered()) {
         delete m_order;
-        m_row = nullptr;
-        m_space = 0;
+        m_state = State::LOOSE;
     }
 }
 
-/// Makes all nodes single objects.
+/// Makes all elements nodes, which nothing else looks at.
 void BoxList::Loosen() {
     DropOrder();
     if (!IsInRow()) {
         return;
     }
-    for (int place = 0; place < m_end; ++place) {
-        BoxNode* const node = NodeInRow(place);
-        if (node->data != nullptr) {
-            auto* const single = new BoxNode(*node);
-            single->previous->next = single;
-            Next(single)->previous = single;
-            m_pCurrent = m_pCurrent == node ? single : m_pCurrent;
-        }
+    m_pCurrent = m_pHead;
+    Pair* const row = GetRow();
+    for (long place = 0; place < m_nLength; ++place) {
+        auto* const node = new BoxNode(*ElementAt(place));
+        LinkBefore(node, m_pHead);
+        row[place / GridSearch::PAIR].nodes[place % GridSearch::PAIR] = node;
+        m_pCurrent = place == m_nCur ? node : m_pCurrent;
     }
     m_pTail = m_pHead->previous;
-    DropHint();
-    FreeRow();
+    m_state = State::LOOSE;
 }
 
 // ---- for the tree ----------------------------------------------------------------------------------
 
+/// With the cursor on it, as appending leaves it.
 void BoxList::Add(Box* box, const Box& range) {
-    ReadAhead(m_pHead);
-    ReadAhead(m_pTail);
-    Arrange(range);
-    if (IsInRow() && m_nLength < MOST_IN_ROW) {
-        AddToRow(box);
-    } else {
-        AddSingly(box, range);
+    if (m_nLength >= MOST_IN_ROW && !IsOrdered()) {
+        Loosen();
+        Order(range);
+    } else if (m_state == State::LOOSE) {
+        Arrange(Grid(range));
     }
-}
-
-void BoxList::AddToRow(Box* box) {
-    if (m_end == m_space) {
+    if (IsOrdered()) {
+        AddToOrder(box);
+        return;
+    }
+    if (m_nLength == m_space) {
         MoveRow(SpaceFor(m_nLength + 1));
     }
-    BoxNode* const node = NodeInRow(m_end);
-    m_row[m_end / GridQuad::COUNT].quad.SetBox(m_end % GridQuad::COUNT, BoxOf(*box));
-    node->data = box;
-    ++m_end;
-    LinkAtEnd(node);
-}
-
-void BoxList::AddSingly(Box* box, const Box& range) {
-    if (IsInRow()) {
-        Loosen();
-    }
-    auto* const node = new BoxNode(box);
-    LinkAtEnd(node);
-    if (IsOrdered() && !m_order->Add(node)) {
-        DropOrder();
-    }
-    Arrange(range);
-}
-
-/// With the cursor on it, as appending leaves it.
-void BoxList::LinkAtEnd(BoxNode* node) {
-    LinkBefore(node, m_pHead);
-    m_pTail = m_pCurrent = node;
+    PutInRow(m_nLength, BoxOf(*box), box);
     m_nCur = m_nLength++;
 }
 
-QnGeExtent2d* BoxList::Take(const Box* box) {
-    BoxNode* node = nullptr;
-    if (IsInRow()) {
-        node = FindInRow(box);
-    } else if (IsOrdered()) {
-        node = m_order->Take(box);
+void BoxList::AddToOrder(Box* box) {
+    auto* const node = new BoxNode(box);
+    LinkBefore(node, m_pHead);
+    m_pTail = m_pCurrent = node;
+    m_nCur = m_nLength++;
+    if (!m_order->Add(node)) {
+        DropOrder();
     }
+}
+
+QnGeExtent2d* BoxList::Take(const Box* box) {
+    if (IsInRow()) {
+        const long place = FindPlace(box);
+        return place >= 0 ? TakeFromRow(place) : nullptr;
+    }
+    BoxNode* node = IsOrdered() ? m_order->Take(box) : nullptr;
     if (node == nullptr) {
-        node = FindAnywhere(box);
+        node = FindNode(box);
         if (node == nullptr) {
             return nullptr;
         }
         DropOrder();  // it holds the node at other coordinates
     }
+    return TakeNode(node);
+}
+
+QnGeExtent2d* BoxList::TakeNode(BoxNode* node) {
     Box* const taken = node->data;
     --m_nLength;
     GoOut();
     DropHint();
     Unlink(node);
-    if (IsInRow()) {
-        LeavePlace(node);
-    } else {
-        delete node;
-        if (m_nLength < FEWEST_IN_ORDER) {
-            DropOrder();
-        }
-    }
+    delete node;
     m_pTail = m_pHead->previous;
+    if (IsOrdered() && m_nLength < FEWEST_IN_ORDER) {
+        const Grid grid = m_order->GetGrid();
+        DropOrder();
+        Arrange(grid);
+    }
     return taken;
 }
 
 /// The node of the very object; where there is none, of the first that says it is the same.
-BoxNode* BoxList::FindAnywhere(const Box* box) const {
+BoxNode* BoxList::FindNode(const Box* box) const {
     for (BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
         if (node->data == box) {
             return node;
@@ -288,81 +287,132 @@ BoxNode* BoxList::FindAnywhere(const Box* box) const {
     return nullptr;
 }
 
+/// That a box itself is asked is rare.
 template <class IsHit>
-void BoxList::FindInRow(const Box& box, IsHit isHit, BoxResult<Box>& result) const {
-    struct Met {
-        Box* box;
-        bool isSure;
-    };
-    Met met[MOST_IN_ROW];
-    int count = 0;
-    const GridSearch search = SearchFor(box);
-    for (int group = 0; group * GridQuad::COUNT < m_end; ++group) {
-        const GridQuad& quad = m_row[group].quad;
-        unsigned meeting = quad.GetMeeting(search.wide);
-        const unsigned sure = quad.GetOverlapping(search.exact);
-        while (meeting != 0) {
-            const int lane = TakeLowestLane(meeting);
-            met[count] = {m_row[group].nodes[lane].data, (sure >> lane & 1U) != 0};
-            if (!met[count].isSure) {
-                ReadAhead(met[count].box);
-            }
-            ++count;
+void BoxList::FindInRow(const GridSearch& search, IsHit isHit, FoundBoxes<Box>& result) const {
+    static_assert(MOST_IN_ROW + GridSearch::COUNT <= FoundBoxes<Box>::MOST_AT_ONCE, "a row has room, and what follows");
+    Box** const room = result.GetRoom(m_nLength + GridSearch::COUNT);
+    long count = 0;
+    const Pair* const row = GetRow();
+    const long toNext = m_space == IN_OBJECT ? 0 : 1;  // one pair is looked at as if it were two
+    for (const Pair* pair = row; pair < row + (m_nLength + 1) / GridSearch::PAIR;
+         pair += GridSearch::COUNT / GridSearch::PAIR) {
+        const Pair* const next = pair + toNext;
+        unsigned meeting = search.GetMeeting(pair->boxes, next->boxes);
+        if (meeting == 0 && m_space > IN_OBJECT) {
+            continue;
         }
+        for (unsigned unsure = meeting & ~search.GetSure(pair->boxes, next->boxes); unsure != 0;) {
+            const int lane = TakeLowestLane(unsure);
+            const Pair* const of = lane < GridSearch::PAIR ? pair : next;
+            meeting &= isHit(*of->data[lane % GridSearch::PAIR]) ? ~0U : ~(1U << lane);
+        }
+        room[count] = pair->data[0];
+        count += static_cast<long>(meeting & 1U);
+        room[count] = pair->data[1];
+        count += static_cast<long>(meeting >> 1U & 1U);
+        room[count] = next->data[0];
+        count += static_cast<long>(meeting >> 2U & 1U) & toNext;
+        room[count] = next->data[1];
+        count += static_cast<long>(meeting >> 3U) & toNext;
     }
-    for (int i = 0; i < count; ++i) {
-        if (met[i].isSure || isHit(*met[i].box)) {
-            AppendTo(result, met[i].box);
+    result.Take(count);
+}
+
+template <class IsHit>
+void BoxList::FindInNodes(IsHit isHit, FoundBoxes<Box>& result) const {
+    for (const BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
+        if (isHit(*node->data)) {
+            result.Append(node->data);
         }
     }
 }
 
-/// A short list is gone through from its tail, which is at hand, to ask for its boxes before they are looked at.
-template <class IsHit>
-void BoxList::FindLoose(IsHit isHit, BoxResult<Box>& result) const {
-    if (m_nLength >= FEWEST_IN_ROW) {
-        for (const BoxNode* node = Next(m_pHead); node != m_pHead; node = Next(node)) {
-            if (isHit(*node->data)) {
-                AppendTo(result, node->data);
-            }
-        }
-        return;
-    }
-    Box* boxes[FEWEST_IN_ROW] = {};
-    const BoxNode* node = m_pTail;
-    for (long i = m_nLength - 1; i >= 0; --i) {
-        boxes[i] = node->data;
-        ReadAhead(boxes[i]);
-        node = node->previous;
-    }
-    for (long i = 0; i < m_nLength; ++i) {
-        if (isHit(*boxes[i])) {
-            AppendTo(result, boxes[i]);
-        }
-    }
-}
-
-void BoxList::Find(double x, double y, BoxResult<Box>& result) const {
+void BoxList::Find(double x, double y, FoundBoxes<Box>& result) const {
     if (IsOrdered()) {
         m_order->Find(x, y, result);
     } else if (!IsInRow()) {
-        FindLoose(HoldsPoint{x, y}, result);
+        FindInNodes(HoldsPoint{x, y}, result);
     } else {
-        FindInRow(QnGeExtent2d(x, x, y, y), HoldsPoint{x, y}, result);
+        FindInRow(SearchFor(x, x, y, y), HoldsPoint{x, y}, result);
     }
 }
 
-void BoxList::Find(const Box& box, BoxResult<Box>& result) const {
+void BoxList::Find(const Box& box, FoundBoxes<Box>& result) const {
     if (IsOrdered()) {
         m_order->Find(box, result);
     } else if (!IsInRow()) {
-        FindLoose(MeetsBox{box}, result);
+        FindInNodes(MeetsBox{box}, result);
     } else {
-        FindInRow(box, MeetsBox{box}, result);
+        FindInRow(SearchFor(box), MeetsBox{box}, result);
     }
 }
 
-// ---- operations of lists ---------------------------------------------------------------------------
+// ---- operations of lists that only go through it ---------------------------------------------------
+
+QnGeExtent2d* const* BoxList::GetFirst() const {
+    if (!IsInRow()) {
+        return Base::GetFirst();
+    }
+    return m_nLength > 0 ? ElementAt(0) : nullptr;
+}
+
+QnGeExtent2d* const* BoxList::GetLast() const {
+    if (!IsInRow()) {
+        return Base::GetLast();
+    }
+    return m_nLength > 0 ? ElementAt(m_nLength - 1) : nullptr;
+}
+
+QnGeExtent2d* const* BoxList::GetNext(Box* const* element) const {
+    if (!IsInRow() || element == nullptr) {
+        return Base::GetNext(ElementNow(element));
+    }
+    const long place = PlaceOf(element) + 1;
+    return place < m_nLength ? ElementAt(place) : nullptr;
+}
+
+QnGeExtent2d* const* BoxList::GetPre(Box* const* element) const {
+    if (!IsInRow() || element == nullptr) {
+        return Base::GetPre(ElementNow(element));
+    }
+    const long place = PlaceOf(element) - 1;
+    return place >= 0 ? ElementAt(place) : nullptr;
+}
+
+void BoxList::MoveToFirst() {
+    if (!IsInRow()) {
+        Base::MoveToFirst();
+        return;
+    }
+    m_nCur = m_nLength > 0 ? 0 : -1;
+}
+
+void BoxList::MoveToLast() {
+    if (!IsInRow()) {
+        Base::MoveToLast();
+        return;
+    }
+    m_nCur = m_nLength - 1;
+}
+
+void BoxList::MoveToNext() {
+    if (!IsInRow()) {
+        Base::MoveToNext();
+        return;
+    }
+    m_nCur = m_nCur + 1 < m_nLength ? m_nCur + 1 : -1;
+}
+
+void BoxList::MoveToPre() {
+    if (!IsInRow()) {
+        Base::MoveToPre();
+        return;
+    }
+    m_nCur = m_nCur < 0 ? m_nLength - 1 : m_nCur - 1;
+}
+
+// ---- operations that write, or go where writing starts ---------------------------------------------
 
 void BoxList::ReAllocate(long length) {
     Loosen();
@@ -385,9 +435,8 @@ QnGeExtent2d*& BoxList::GetCurData() {
 }
 
 void BoxList::SetCurData(Box* const& value) {
-    Box* const box = value;  // may be an element, which moves now
     Loosen();
-    Base::SetCurData(box);
+    Base::SetCurData(value);
 }
 
 /// Conbine goes to the first element that it takes from a list before it takes it.
@@ -427,20 +476,9 @@ bool BoxList::Move(long from, long to) {
     return Base::Move(from, to);
 }
 
-void BoxList::Insert(long index, Box* const& value) {
-    Box* const box = value;
-    Base::Insert(index, box);
-}
-
-void BoxList::InsertHead(Box* const& value) {
-    Box* const box = value;
-    Base::InsertHead(box);
-}
-
 void BoxList::InsertAfterCur(Box* const& value) {
-    Box* const box = value;  // may be an element, which moves now
     Loosen();
-    Base::InsertAfterCur(box);
+    Base::InsertAfterCur(value);
 }
 
 void BoxList::DetachAfterCur() {

@@ -6,7 +6,7 @@
 
 #include "containers/QnList.h"
 #include "spatial/detail/BoxOrder.h"
-#include "spatial/detail/BoxResult.h"
+#include "spatial/detail/FoundBoxes.h"
 #include "spatial/detail/GridBox.h"
 #include "spatial/detail/ReadAhead.h"
 #include "values/QnGeExtent2d.h"
@@ -22,7 +22,7 @@ class BoxList final : public QnList<QnGeExtent2d*>, private Grid {
     using Box = QnGeExtent2d;
 
 public:
-    BoxList() : m_row(nullptr) {}
+    BoxList() = default;
     ~BoxList() override;
     BoxList(const BoxList&) = delete;
     BoxList& operator=(const BoxList&) = delete;
@@ -39,24 +39,17 @@ public:
     /// Takes the element out that is the same as `box` and answers it; null if there is none.
     Box* Take(const Box* box);
     /// Appends the boxes that hold a point, or meet a box, in order.
-    void Find(double x, double y, BoxResult<Box>& result) const;
-    void Find(const Box& box, BoxResult<Box>& result) const;
-
-    /// Asks for what a search will read first.
-    void ReadNodesAhead() const {
-        constexpr int ENOUGH = 4;
-        for (int group = 0; group * GridQuad::COUNT < m_end && group < ENOUGH; ++group) {
-            ReadAhead(m_row + group);
-        }
-        if (m_space == 0) {
-            ReadAhead(m_pTail);
-        }
+    void Find(double x, double y, FoundBoxes<Box>& result) const;
+    void Find(const Box& box, FoundBoxes<Box>& result) const;
+    void Find(double x, double y, BoxResult<Box>& result) const {
+        FoundBoxes<Box> found(result);
+        Find(x, y, found);
     }
 
-    static void* operator new(std::size_t bytes) { return TakePiece(bytes); }
-    static void operator delete(void* list, std::size_t bytes) { GivePiece(list, bytes); }
+    static void* operator new(std::size_t bytes) { return TakePiece(InWholeLines(bytes)); }
+    static void operator delete(void* list, std::size_t bytes) { GivePiece(list, InWholeLines(bytes)); }
 
-    // ---- operations of lists: all that write, or go where writing starts --------------------------
+    // ---- operations of lists: all that touch nodes ------------------------------------------------
 protected:
     void ReAllocate(long length) override;
 
@@ -65,11 +58,17 @@ public:
     void Reset() override;
     Box*& GetCurData() override;
     void SetCurData(Box* const& value) override;
+    void MoveToFirst() override;
+    void MoveToNext() override;
+    void MoveToPre() override;
+    void MoveToLast() override;
     void MoveTo(long index) override;
+    Box* const* GetFirst() const override;
+    Box* const* GetNext(Box* const* element) const override;
+    Box* const* GetPre(Box* const* element) const override;
+    Box* const* GetLast() const override;
     Box* const& GetAt(long index) const override;
     Box*& operator[](long index) override;
-    void Insert(long index, Box* const& value) override;
-    void InsertHead(Box* const& value) override;
     void DelCur() override;
     void Sort(int (*compare)(Box* const&, Box* const&)) override;
     void Sort(bool ascending) override;
@@ -83,49 +82,57 @@ public:
     using Base::operator[];
 
 private:
-    static constexpr int MOST_IN_ROW = 96;      ///< a longer list is ordered
-    static constexpr int FEWEST_IN_ROW = 9;     ///< a shorter one stays loose
-    static constexpr int FEWEST_IN_ORDER = 48;  ///< a shorter one goes back into a row
+    static constexpr long MOST_IN_ROW = 96;      ///< a longer list is ordered
+    static constexpr long FEWEST_IN_ORDER = 48;  ///< a shorter one goes back into a row
 
-    /// Four places of a row: boxes on the grid, and the list nodes themselves. The last group of a row may end early.
-    struct Group {
-        GridQuad quad;
-        BoxNode nodes[GridQuad::COUNT];  ///< without a box where the place is empty
+    enum class State : short { LOOSE, IN_ROW, ORDERED };
+
+    /// Two places of a row.
+    struct Pair {
+        union {
+            GridBox boxes[GridSearch::PAIR];
+            BoxNode* nodes[GridSearch::PAIR];  ///< what the elements of a row that was left have become
+        };
+        Box* data[GridSearch::PAIR];
     };
 
-    static constexpr short IS_ORDERED = -1;
-    bool IsInRow() const { return m_space > 0; }
-    bool IsOrdered() const { return m_space == IS_ORDERED; }
+    static constexpr int IN_OBJECT = GridSearch::PAIR;
+    bool IsInRow() const { return m_state == State::IN_ROW; }
+    bool IsOrdered() const { return m_state == State::ORDERED; }
 
     static int SpaceFor(long length);
     static std::size_t BytesOf(int space);
-    static Group* MakeRow(int space);
-    int PlaceOf(const BoxNode* node) const;
-    BoxNode* NodeInRow(int place) const;
-    void PutInRow(int place, const GridBox& box, BoxNode* node);
+    const Pair* GetRow() const { return m_space == IN_OBJECT ? &m_pair : m_row; }
+    Pair* GetRow() { return m_space == IN_OBJECT ? &m_pair : m_row; }
+    Box* const* ElementAt(long place) const;
+    bool IsOfRow(Box* const* element) const;
+    long PlaceOf(Box* const* element) const;
+    Box* const* ElementNow(Box* const* element) const;
+    long FindPlace(const Box* box) const;
+    void MakeRow(int space);
     void MoveRow(int space);
     void FreeRow();
-    BoxNode* FindInRow(const Box* box) const;
-    template <class IsHit>
-    void FindInRow(const Box& box, IsHit isHit, BoxResult<Box>& result) const;
-    template <class IsHit>
-    void FindLoose(IsHit isHit, BoxResult<Box>& result) const;
-    void LeavePlace(const BoxNode* node);
+    void PutInRow(long place, const GridBox& box, Box* data);
+    Box* TakeFromRow(long place);
+    Box* TakeNode(BoxNode* node);
 
-    void Arrange(const Box& range);
+    void Arrange(const Grid& grid);
+    void Order(const Box& range);
     void Loosen();
     void DropOrder();
-    void AddToRow(Box* box);
-    void AddSingly(Box* box, const Box& range);
-    void LinkAtEnd(BoxNode* node);
-    BoxNode* FindAnywhere(const Box* box) const;
+    void AddToOrder(Box* box);
+    BoxNode* FindNode(const Box* box) const;
+    template <class IsHit>
+    void FindInRow(const GridSearch& search, IsHit isHit, FoundBoxes<Box>& result) const;
+    template <class IsHit>
+    void FindInNodes(IsHit isHit, FoundBoxes<Box>& result) const;
 
-    // The grid is that of the row, and a base so that these two take what it leaves of its last eight bytes: lists come
-    // by the hundred thousand.
-    short m_space = 0;  ///< places of the row, 0 if there is none; or IS_ORDERED
-    short m_end = 0;    ///< behind the last place in use
+    // The grid is that of the row.
+    State m_state = State::LOOSE;
+    short m_space = 0;  ///< places of the row, or of that which was left; 0 if there is none
     union {
-        Group* m_row;
+        Pair m_pair;  ///< the row if it has no more places
+        Pair* m_row = nullptr;
         BoxOrder* m_order;
     };
 };

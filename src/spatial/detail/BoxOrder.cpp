@@ -35,8 +35,7 @@ namespace qn_detail {
 
 namespace {
 
-constexpr int QUADS = 4;
-constexpr int SPACE = QUADS * GridQuad::COUNT;  ///< entries of a block
+constexpr int SPACE = 16;  ///< entries of a block
 constexpr int HALF = SPACE / 2;
 constexpr int FEW = HALF - 1;            ///< a block with no more joins another
 constexpr int FEW_TOGETHER = SPACE - 3;  ///< if the two have no more together
@@ -50,8 +49,8 @@ int GapToMiddle(int low, int high) {
 BoxOrder::Key KeyOf(const GridBox& box) {
     constexpr int LOWEST_SUM = -2 * (GridBox::FARTHEST + 1);
     constexpr int SUM_BITS = 17;
-    const bool isOnVertical = GapToMiddle(box.x0, box.x1) <= GapToMiddle(box.y0, box.y1);
-    const int sum = isOnVertical ? box.y0 + box.y1 : box.x0 + box.x1;
+    const bool isOnVertical = GapToMiddle(box.X0(), box.X1()) <= GapToMiddle(box.Y0(), box.Y1());
+    const int sum = isOnVertical ? box.Y0() + box.Y1() : box.X0() + box.X1();
     const auto along = static_cast<BoxOrder::Key>(sum - LOWEST_SUM);
     const BoxOrder::Key arm = isOnVertical ? 0 : BoxOrder::Key{1} << SUM_BITS;
     return (arm | along) << BoxOrder::ARRIVAL_BITS;
@@ -61,7 +60,7 @@ BoxOrder::Key KeyOf(const GridBox& box) {
 
 /// Up to SPACE entries: list nodes at height 0, else blocks of the height below.
 struct BoxOrder::Block {
-    GridQuad quads[QUADS];
+    GridBox boxes[SPACE];
     Key keys[SPACE];
     void* items[SPACE];
     int count = 0;
@@ -72,13 +71,11 @@ struct BoxOrder::Block {
     static void* operator new(std::size_t bytes) { return TakePiece(bytes); }
     static void operator delete(void* block, std::size_t bytes) { GivePiece(block, bytes); }
 
-    GridBox GetBox(int i) const { return quads[i / GridQuad::COUNT].GetBox(i % GridQuad::COUNT); }
-    void SetBox(int i, const GridBox& box) { quads[i / GridQuad::COUNT].SetBox(i % GridQuad::COUNT, box); }
     Block* GetBlock(int i) const { return static_cast<Block*>(items[i]); }
     BoxNode* GetNode(int i) const { return static_cast<BoxNode*>(items[i]); }
 
     void Append(Key key, const GridBox& box, void* item) {
-        SetBox(count, box);
+        boxes[count] = box;
         keys[count] = key;
         items[count] = item;
         ++count;
@@ -87,15 +84,15 @@ struct BoxOrder::Block {
     /// The last entry takes the place of entry `i`.
     void Remove(int i) {
         --count;
-        SetBox(i, GetBox(count));
+        boxes[i] = boxes[count];
         keys[i] = keys[count];
         items[i] = items[count];
     }
 
     GridBox GetHull() const {
-        GridBox hull = GetBox(0);
+        GridBox hull = boxes[0];
         for (int i = 1; i < count; ++i) {
-            hull = hull.With(GetBox(i));
+            hull = hull.With(boxes[i]);
         }
         return hull;
     }
@@ -132,17 +129,18 @@ struct BoxOrder::Block {
         return next;
     }
 
-    unsigned GetMeeting(const GridBox& box) const {
+    /// Bit i is set if the box of entry i meets what is searched for, by the grid.
+    unsigned GetMeeting(const GridSearch& search) const {
         unsigned bits = 0;
-        for (int k = 0; k < QUADS; ++k) {
-            bits |= quads[k].GetMeeting(box) << (k * GridQuad::COUNT);
+        for (int i = 0; i < SPACE; i += GridSearch::COUNT) {
+            bits |= search.GetMeeting(boxes + i, boxes + i + GridSearch::PAIR) << i;
         }
         return bits & ((1U << count) - 1U);
     }
-    unsigned GetOverlapping(const GridBox& box) const {
+    unsigned GetSure(const GridSearch& search) const {
         unsigned bits = 0;
-        for (int k = 0; k < QUADS; ++k) {
-            bits |= quads[k].GetOverlapping(box) << (k * GridQuad::COUNT);
+        for (int i = 0; i < SPACE; i += GridSearch::COUNT) {
+            bits |= search.GetSure(boxes + i, boxes + i + GridSearch::PAIR) << i;
         }
         return bits;
     }
@@ -168,7 +166,7 @@ BoxOrder::Block* BoxOrder::Block::Split() {
     auto* const upper = new Block(height);
     for (int i = count - 1; i >= 0; --i) {
         if (keys[i] >= sorted[HALF]) {
-            upper->Append(keys[i], GetBox(i), items[i]);
+            upper->Append(keys[i], boxes[i], items[i]);
             Remove(i);
         }
     }
@@ -197,10 +195,10 @@ BoxOrder::Block* BoxOrder::Block::Add(Key key, const GridBox& box, void* item) {
     Block* const below = GetBlock(i);
     Block* const added = below->Add(key, box, item);
     if (added == nullptr) {
-        SetBox(i, GetBox(i).With(box));
+        boxes[i] = boxes[i].With(box);
         return nullptr;
     }
-    SetBox(i, below->GetHull());
+    boxes[i] = below->GetHull();
     return Enter(added->GetLowestKey(), added->GetHull(), added);
 }
 
@@ -223,9 +221,9 @@ void BoxOrder::Block::JoinIfSmall(int i) {
         return;
     }
     for (int k = 0; k < given->count; ++k) {
-        kept->Append(given->keys[k], given->GetBox(k), given->items[k]);
+        kept->Append(given->keys[k], given->boxes[k], given->items[k]);
     }
-    SetBox(lower, GetBox(lower).With(GetBox(upper)));
+    boxes[lower] = boxes[lower].With(boxes[upper]);
     delete given;
     Remove(upper);
 }
@@ -266,8 +264,8 @@ void BoxOrder::Block::TidyAfterTake(int i, const GridBox& taken) {
         Remove(i);
         return;
     }
-    if (!GetBox(i).HoldsInside(taken)) {
-        SetBox(i, below->GetHull());
+    if (!boxes[i].HoldsInside(taken)) {
+        boxes[i] = below->GetHull();
     }
     JoinIfSmall(i);
 }
@@ -285,14 +283,14 @@ void BoxOrder::Block::DeleteAll(Block* block) {
 
 template <class IsHit>
 void BoxOrder::Block::Find(const GridSearch& search, IsHit isHit, BoxHits& hits) const {
-    const unsigned meeting = GetMeeting(search.wide);
+    const unsigned meeting = GetMeeting(search);
     if (height > 0) {
         for (unsigned left = meeting; left != 0;) {
             GetBlock(TakeLowestLane(left))->Find(search, isHit, hits);
         }
         return;
     }
-    const unsigned sure = GetOverlapping(search.exact);
+    const unsigned sure = GetSure(search);
     for (unsigned left = meeting; left != 0;) {
         ReadAhead(GetNode(TakeLowestLane(left)));
     }
@@ -344,21 +342,21 @@ BoxNode* BoxOrder::Take(const QnGeExtent2d* box) {
 }
 
 template <class IsHit>
-void BoxOrder::FindAll(const QnGeExtent2d& box, IsHit isHit, BoxResult<QnGeExtent2d>& result) const {
+void BoxOrder::FindAll(const GridSearch& search, IsHit isHit, FoundBoxes<QnGeExtent2d>& result) const {
     BoxHits hits;
-    m_root->Find(m_grid.SearchFor(box), isHit, hits);
+    m_root->Find(search, isHit, hits);
     hits.SortByArrival();
     for (const BoxHits::Hit& hit : hits) {
-        AppendTo(result, hit.box);
+        result.Append(hit.box);
     }
 }
 
-void BoxOrder::Find(double x, double y, BoxResult<QnGeExtent2d>& result) const {
-    FindAll(QnGeExtent2d(x, x, y, y), HoldsPoint{x, y}, result);
+void BoxOrder::Find(double x, double y, FoundBoxes<QnGeExtent2d>& result) const {
+    FindAll(m_grid.SearchFor(x, x, y, y), HoldsPoint{x, y}, result);
 }
 
-void BoxOrder::Find(const QnGeExtent2d& box, BoxResult<QnGeExtent2d>& result) const {
-    FindAll(box, MeetsBox{box}, result);
+void BoxOrder::Find(const QnGeExtent2d& box, FoundBoxes<QnGeExtent2d>& result) const {
+    FindAll(m_grid.SearchFor(box), MeetsBox{box}, result);
 }
 
 }  // namespace qn_detail

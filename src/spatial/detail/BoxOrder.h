@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "containers/QnList.h"
-#include "spatial/detail/BoxResult.h"
+#include "spatial/detail/FoundBoxes.h"
 #include "spatial/detail/GridBox.h"
 #include "values/QnGeExtent2d.h"
 
@@ -31,8 +31,14 @@ public:
     BoxNode* Take(const QnGeExtent2d* box);
 
     /// Appends the boxes that hold a point, or meet a box, in the order of the list.
-    void Find(double x, double y, BoxResult<QnGeExtent2d>& result) const;
-    void Find(const QnGeExtent2d& box, BoxResult<QnGeExtent2d>& result) const;
+    void Find(double x, double y, FoundBoxes<QnGeExtent2d>& result) const;
+    void Find(double x, double y, BoxResult<QnGeExtent2d>& result) const {
+        FoundBoxes<QnGeExtent2d> found(result);
+        Find(x, y, found);
+    }
+    void Find(const QnGeExtent2d& box, FoundBoxes<QnGeExtent2d>& result) const;
+
+    const Grid& GetGrid() const { return m_grid; }
 
     static void* operator new(std::size_t bytes) { return TakePiece(bytes); }
     static void operator delete(void* order, std::size_t bytes) { GivePiece(order, bytes); }
@@ -47,7 +53,7 @@ public:
 
 private:
     template <class IsHit>
-    void FindAll(const QnGeExtent2d& box, IsHit isHit, BoxResult<QnGeExtent2d>& result) const;
+    void FindAll(const GridSearch& search, IsHit isHit, FoundBoxes<QnGeExtent2d>& result) const;
 
     Grid m_grid;
     Block* m_root;

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "containers/QnList.h"
-#include "spatial/detail/BoxResult.h"
+#include "spatial/detail/FoundBoxes.h"
 #include "spatial/detail/PlainBoxLists.h"
 #include "spatial/detail/ReadAhead.h"
 #include "spatial/detail/SectorTree.h"
@@ -33,6 +33,7 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
     using Tree = ABoxTree;
     using Box = typename BoxSectors::Box;
     using Boxes = BoxResult<Box>;
+    using Found = FoundBoxes<Box>;
     using Base::COUNT;
     using Base::Insert;
     using Base::IsEmpty;
@@ -41,19 +42,34 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
 
     // ---- taking out ------------------------------------------------------------------------------
 
-    /// Takes the very object `box` out and answers it; null if it is not there.
-    static Box* Take(Tree& node, const Box* box) {
-        const int sector = SectorOf(node, *box);
-        if (sector == NO_SECTOR || node.Child[sector] == nullptr) {
-            return TakeHere(node, sector, box);
+    /// Takes the very object `box` out and answers it; null if it is not there. Nodes above that are left with nothing
+    /// go too.
+    static Box* Take(Tree& root, const Box* box) {
+        Tree* node = &root;
+        Tree** emptied = nullptr;  // the topmost child on the way below which there is nothing else
+        int sector = SectorOf(*node, *box);
+        while (sector != NO_SECTOR && node->Child[sector] != nullptr) {
+            if (emptied == nullptr || !HasNothingBut(*node, sector)) {
+                emptied = &node->Child[sector];
+            }
+            node = node->Child[sector];
+            sector = SectorOf(*node, *box);
         }
-        Tree*& child = node.Child[sector];
-        Box* const taken = Take(*child, box);
-        if (taken != nullptr && IsEmpty(*child)) {
-            delete child;
-            child = nullptr;
+        Box* const taken = TakeHere(*node, sector, box);
+        if (taken != nullptr && emptied != nullptr && IsEmpty(*node)) {
+            delete *emptied;
+            *emptied = nullptr;
         }
         return taken;
+    }
+
+    /// Whether a node has one child and nothing else.
+    static bool HasNothingBut(const Tree& node, int sector) {
+        bool isAlone = node.ExtentList == nullptr && node.OneExtent == nullptr;
+        for (int i = 0; i < COUNT && isAlone; ++i) {
+            isAlone = i == sector || node.Child[i] == nullptr;
+        }
+        return isAlone;
     }
 
     /// The same in the node where the way down by sectors ends.
@@ -216,15 +232,30 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
 
     // ---- looking ---------------------------------------------------------------------------------
 
+    static void HitPoint(const Tree& tree, const QnGePoint& at, Boxes& result) {
+        Found found(result);
+        HitPoint(tree, at, found);
+    }
+    static void HitBox(const Tree& tree, const Box& box, Boxes& result) {
+        Found found(result);
+        HitBox(tree, box, found);
+    }
+    static void GetAllExtent(const Tree& tree, Boxes& result) {
+        Found found(result);
+        GetAllExtent(tree, found);
+    }
+
     /// Appends the boxes that hold a point: deepest node first.
-    static void HitPoint(const Tree& node, const QnGePoint& at, Boxes& result) {
-        qn_detail::ReadAhead(node.ExtentList);
+    static void HitPoint(const Tree& node, const QnGePoint& at, Found& result) {
+        if (node.ExtentList != nullptr) {
+            BoxLists::ReadAhead(node);
+        }
         const int sector = SectorOf(node, at);
         if (sector != NO_SECTOR) {
             if (node.Child[sector] != nullptr) {
                 HitPoint(*node.Child[sector], at, result);
             } else if (node.OneExtent != nullptr && BoxSectors::Holds(*node.OneExtent, at)) {
-                AppendTo(result, node.OneExtent);
+                result.Append(node.OneExtent);
             }
         }
         if (node.ExtentList != nullptr) {
@@ -233,10 +264,7 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
     }
 
     /// Appends the boxes that meet `box`, which is cut to the children's cells on the way down.
-    static void HitBox(const Tree& node, const Box& box, Boxes& result) {
-        if (node.ExtentList != nullptr) {
-            BoxLists::ReadAhead(node);
-        }
+    static void HitBox(const Tree& node, const Box& box, Found& result) {
         if (Base::HasChild(node)) {
             const int sector = SectorOf(node, box);
             if (sector == NO_SECTOR) {
@@ -246,16 +274,19 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
             }
         }
         if (node.OneExtent != nullptr && node.OneExtent->IsInsersectWith(box)) {
-            AppendTo(result, node.OneExtent);
+            result.Append(node.OneExtent);
         }
         if (node.ExtentList != nullptr) {
             BoxLists::HitBox(node, box, result);
         }
     }
 
-    static void HitBoxInChildren(const Tree& node, const Box& box, Boxes& result) {
+    /// Asks the memory for all children, then for what those have that are met, before it goes down.
+    static void HitBoxInChildren(const Tree& node, const Box& box, Found& result) {
         for (const Tree* child : node.Child) {
-            qn_detail::ReadAhead(child);
+            if (child != nullptr) {
+                qn_detail::ReadAhead(child);
+            }
         }
         bool isMet[COUNT];
         Box cut;
@@ -263,8 +294,7 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
             const Tree* const child = node.Child[i];
             isMet[i] = child != nullptr && BoxSectors::Cut(box, *child, cut);
             if (isMet[i]) {
-                qn_detail::ReadAhead(child->ExtentList);
-                qn_detail::ReadAhead(child->OneExtent);
+                ReadBoxesAhead(*child);
             }
         }
         for (int i = 0; i < COUNT; ++i) {
@@ -275,15 +305,24 @@ struct BoxTree : SectorTree<BoxTreeKind<ABoxTree, BoxSectors, BoxLists>> {
         }
     }
 
-    static void GetAllExtent(const Tree& node, Boxes& result) {
+    static void ReadBoxesAhead(const Tree& node) {
+        if (node.OneExtent != nullptr) {
+            qn_detail::ReadAhead(node.OneExtent);
+        }
+        if (node.ExtentList != nullptr) {
+            BoxLists::ReadAhead(node);
+        }
+    }
+
+    static void GetAllExtent(const Tree& node, Found& result) {
         if (node.ExtentList != nullptr) {
             const QnList<Box*>& list = *node.ExtentList;
             for (Box* const* entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
-                AppendTo(result, *entry);
+                result.Append(*entry);
             }
         }
         if (node.OneExtent != nullptr) {
-            AppendTo(result, node.OneExtent);
+            result.Append(node.OneExtent);
         }
         for (const Tree* child : node.Child) {
             if (child != nullptr) {

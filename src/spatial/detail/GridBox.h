@@ -3,7 +3,6 @@
 
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 
 #include "values/QnGeExtent2d.h"
 
@@ -13,31 +12,108 @@
 
 namespace qn_detail {
 
-/// A box in the numbers of a grid over a tree node's range, two bytes a coordinate.
+/// A box in the numbers of a grid over a tree node's range, two bytes a side: left, lower, minus right, minus upper. So
+/// a box within another has no side less than the other's, and a test of two boxes compares all four in one way.
 struct GridBox {
-    std::int16_t x0;
-    std::int16_t y0;
-    std::int16_t x1;
-    std::int16_t y1;
-
+    static constexpr int SIDES = 4;
     static constexpr std::int16_t FARTHEST = 32766;  ///< of boxes; beyond it only the empty box has corners
 
+    std::int16_t sides[SIDES];
+
+    static GridBox Of(std::int16_t x0, std::int16_t y0, std::int16_t x1, std::int16_t y1) {
+        return {{x0, y0, Minus(x1), Minus(y1)}};
+    }
     /// Meets no box, and is neutral in With.
-    static constexpr GridBox Empty() { return {FARTHEST + 1, FARTHEST + 1, -FARTHEST - 1, -FARTHEST - 1}; }
+    static constexpr GridBox Empty() { return {{FARTHEST + 1, FARTHEST + 1, FARTHEST + 1, FARTHEST + 1}}; }
+
+    int X0() const { return sides[0]; }
+    int Y0() const { return sides[1]; }
+    int X1() const { return -sides[2]; }
+    int Y1() const { return -sides[3]; }
+
+    /// What no side of a box that meets this one is above.
+    GridBox Limits() const { return {{Minus(sides[2]), Minus(sides[3]), Minus(sides[0]), Minus(sides[1])}}; }
 
     GridBox With(const GridBox& o) const {
-        return {o.x0 < x0 ? o.x0 : x0, o.y0 < y0 ? o.y0 : y0, o.x1 > x1 ? o.x1 : x1, o.y1 > y1 ? o.y1 : y1};
+        GridBox hull = *this;
+        for (int i = 0; i < SIDES; ++i) {
+            hull.sides[i] = o.sides[i] < sides[i] ? o.sides[i] : sides[i];
+        }
+        return hull;
     }
-    bool Holds(const GridBox& o) const { return x0 <= o.x0 && y0 <= o.y0 && x1 >= o.x1 && y1 >= o.y1; }
+    bool IsWithin(const GridBox& limits) const {
+        return sides[0] <= limits.sides[0] && sides[1] <= limits.sides[1] && sides[2] <= limits.sides[2] &&
+               sides[3] <= limits.sides[3];
+    }
+    bool IsBelow(const GridBox& limits) const {
+        return sides[0] < limits.sides[0] && sides[1] < limits.sides[1] && sides[2] < limits.sides[2] &&
+               sides[3] < limits.sides[3];
+    }
     /// Holds it without touching it from inside.
-    bool HoldsInside(const GridBox& o) const { return x0 < o.x0 && y0 < o.y0 && x1 > o.x1 && y1 > o.y1; }
+    bool HoldsInside(const GridBox& o) const { return IsBelow(o); }
+
+private:
+    static std::int16_t Minus(std::int16_t side) { return static_cast<std::int16_t>(-side); }
 };
 
-/// What is searched for on a grid: the box that all that may be met meets, and the box by which some need no test.
-struct GridSearch {
-    GridBox wide;
-    GridBox exact;  ///< what meets it by more than a touch is surely met
+/// What is searched for on a grid, as limits of the sides of boxes. It looks at four boxes at a time, two here and two
+/// there: bit k of an answer is of box k.
+class GridSearch {
+public:
+    static constexpr int COUNT = 4;
+    static constexpr int PAIR = 2;
+
+#if defined(__SSE2__)
+    using Limits = __m128i;  ///< those of one box, twice
+#else
+    using Limits = GridBox;
+#endif
+
+    /// What has a side above `wide` is surely not met; what has all sides below `exact` surely is.
+    GridSearch(const Limits& wide, const Limits& exact) : m_wide(wide), m_exact(exact) {}
+
+    unsigned GetMeeting(const GridBox* two, const GridBox* two2) const;
+    unsigned GetSure(const GridBox* two, const GridBox* two2) const;
+
+private:
+    Limits m_wide;
+    Limits m_exact;
 };
+
+#if defined(__SSE2__)
+
+inline __m128i LoadTwo(const GridBox* two) {
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(two));
+}
+/// Bit k is set if all numbers of box k equal `bits`, each 0 or all ones.
+inline unsigned GetUniform(__m128i two, __m128i two2, __m128i bits) {
+    const __m128i four = _mm_packs_epi16(two, two2);
+    return static_cast<unsigned>(_mm_movemask_ps(_mm_castsi128_ps(_mm_cmpeq_epi32(four, bits))));
+}
+
+inline unsigned GridSearch::GetMeeting(const GridBox* two, const GridBox* two2) const {
+    return GetUniform(_mm_cmpgt_epi16(LoadTwo(two), m_wide), _mm_cmpgt_epi16(LoadTwo(two2), m_wide),
+                      _mm_setzero_si128());
+}
+
+inline unsigned GridSearch::GetSure(const GridBox* two, const GridBox* two2) const {
+    return GetUniform(_mm_cmpgt_epi16(m_exact, LoadTwo(two)), _mm_cmpgt_epi16(m_exact, LoadTwo(two2)),
+                      _mm_set1_epi32(-1));
+}
+
+#else
+
+inline unsigned GridSearch::GetMeeting(const GridBox* two, const GridBox* two2) const {
+    return (two[0].IsWithin(m_wide) ? 1U : 0U) | (two[1].IsWithin(m_wide) ? 2U : 0U) |
+           (two2[0].IsWithin(m_wide) ? 4U : 0U) | (two2[1].IsWithin(m_wide) ? 8U : 0U);
+}
+
+inline unsigned GridSearch::GetSure(const GridBox* two, const GridBox* two2) const {
+    return (two[0].IsBelow(m_exact) ? 1U : 0U) | (two[1].IsBelow(m_exact) ? 2U : 0U) |
+           (two2[0].IsBelow(m_exact) ? 4U : 0U) | (two2[1].IsBelow(m_exact) ? 8U : 0U);
+}
+
+#endif
 
 /// The grid over a range: it turns coordinates into numbers and keeps their order, so that what meets in the plan meets
 /// on the grid. What lies beyond the range gets the numbers of its border.
@@ -45,169 +121,80 @@ class Grid {
 public:
     Grid() : Grid(QnGeExtent2d()) {}
     explicit Grid(const QnGeExtent2d& range)
-        : m_originX(OriginOf(range.x)),
-          m_originY(OriginOf(range.y)),
-          m_scaleX(ScaleOf(range.x)),
-          m_scaleY(ScaleOf(range.y)) {}
+        : m_origin{OriginOf(range.x), OriginOf(range.y)}, m_scale{ScaleOf(range.x), ScaleOf(range.y)} {}
 
     /// What is no box, having a coordinate that is no number, is the empty one: no test of extents lets it through.
     GridBox BoxOf(const QnGeExtent2d& box) const {
-        return IsBox(box) ? GridBox{NumberOf(X(box.x.min)), NumberOf(Y(box.y.min)), NumberOf(X(box.x.max)),
-                                    NumberOf(Y(box.y.max))}
+        return IsBox(box) ? GridBox::Of(NumberOf(X(box.x.min)), NumberOf(Y(box.y.min)), NumberOf(X(box.x.max)),
+                                        NumberOf(Y(box.y.max)))
                           : GridBox::Empty();
     }
 
-    /// For what meets or touches `box` by the tests of extents, under their tolerance.
+    /// For what meets or touches a box by the tests of extents, under their tolerance.
     ///
-    /// Tolerance  The grid keeps the order of coordinates. So a box on the grid misses nothing that was widened by more
-    ///            than the tolerance before; and what is less by its number is less.
+    /// Tolerance  The grid keeps the order of coordinates, and so does all rounding. So a box on the grid misses nothing
+    ///            that was widened by twice the tolerance before; and what is less by its number is less.
+    GridSearch SearchFor(double xMin, double xMax, double yMin, double yMax) const;
     GridSearch SearchFor(const QnGeExtent2d& box) const {
-        const double x0 = X(box.x.min);
-        const double y0 = Y(box.y.min);
-        const double x1 = X(box.x.max);
-        const double y1 = Y(box.y.max);
-        const GridBox wide = {NumberOf(x0 - MarginX(box.x.min)), NumberOf(y0 - MarginY(box.y.min)),
-                              NumberOf(x1 + MarginX(box.x.max)), NumberOf(y1 + MarginY(box.y.max))};
-        const bool isSure = g_distZero >= 0.0 && IsBox(box);
-        return {wide, isSure ? GridBox{NumberOf(x0), NumberOf(y0), NumberOf(x1), NumberOf(y1)} : GridBox::Empty()};
+        return SearchFor(box.x.min, box.x.max, box.y.min, box.y.max);
     }
 
 private:
-    static constexpr int HALF_BITS = 16;
-
     static bool IsBox(const QnGeExtent2d& box) {
         return !std::isnan(box.x.min) && !std::isnan(box.x.max) && !std::isnan(box.y.min) && !std::isnan(box.y.max);
     }
     static double OriginOf(const QnGeExtent& range) {
         return std::isfinite(range.GetCenter()) ? range.GetCenter() : 0.0;
     }
-    /// The upper half of a float's bits: how many numbers a unit gets matters little, that it stays the same matters.
-    static std::uint16_t ScaleOf(const QnGeExtent& range) {
-        auto scale = static_cast<float>(2.0 * GridBox::FARTHEST / range.GetLength());
-        scale = std::isnormal(scale) && scale > 0.0F ? scale : 1.0F;
-        std::uint32_t bits = 0;
-        std::memcpy(&bits, &scale, sizeof bits);
-        return static_cast<std::uint16_t>(bits >> HALF_BITS);
-    }
-    static double Scale(std::uint16_t upperHalf) {
-        const std::uint32_t bits = static_cast<std::uint32_t>(upperHalf) << HALF_BITS;
-        float scale = 0.0F;
-        std::memcpy(&scale, &bits, sizeof scale);
-        return static_cast<double>(scale);
+    static float ScaleOf(const QnGeExtent& range) {
+        const auto scale = static_cast<float>(2.0 * GridBox::FARTHEST / range.GetLength());
+        return std::isnormal(scale) && scale > 0.0F ? scale : 1.0F;
     }
     static std::int16_t NumberOf(double v) {
         constexpr double MOST = GridBox::FARTHEST;
         const double notAbove = v < MOST ? v : MOST;
         return static_cast<std::int16_t>(notAbove > -MOST ? notAbove : -MOST);
     }
-    double X(double x) const { return (x - m_originX) * Scale(m_scaleX); }
-    double Y(double y) const { return (y - m_originY) * Scale(m_scaleY); }
+    double X(double x) const { return (x - m_origin[0]) * static_cast<double>(m_scale[0]); }
+    double Y(double y) const { return (y - m_origin[1]) * static_cast<double>(m_scale[1]); }
 
-    /// Twice the tolerance, and what rounding may take away.
-    double MarginX(double x) const { return Margin(x, m_originX) * Scale(m_scaleX); }
-    double MarginY(double y) const { return Margin(y, m_originY) * Scale(m_scaleY); }
-    static double Margin(double v, double origin) {
-        constexpr double ROUNDING = 1e-15;
-        return 2.0 * std::fabs(g_distZero) + ROUNDING * (std::fabs(v) + std::fabs(origin));
-    }
-
-    double m_originX;
-    double m_originY;
-    std::uint16_t m_scaleX;
-    std::uint16_t m_scaleY;
-};
-
-/// Four boxes of a grid side by side.
-struct alignas(16) GridQuad {
-    static constexpr int COUNT = 4;
-
-    std::int16_t low[2 * COUNT];   ///< x0 of the four, then y0
-    std::int16_t high[2 * COUNT];  ///< x1, then y1
-
-    GridBox GetBox(int lane) const { return {low[lane], low[COUNT + lane], high[lane], high[COUNT + lane]}; }
-    void SetBox(int lane, const GridBox& box) {
-        low[lane] = box.x0;
-        low[COUNT + lane] = box.y0;
-        high[lane] = box.x1;
-        high[COUNT + lane] = box.y1;
-    }
-    void Clear() {
-        for (int lane = 0; lane < COUNT; ++lane) {
-            SetBox(lane, GridBox::Empty());
-        }
-    }
-
-    /// Bit k is set if the box in lane k meets `box`.
-    unsigned GetMeeting(const GridBox& box) const;
-    /// Bit k is set if it does so by more than a touch.
-    unsigned GetOverlapping(const GridBox& box) const;
-    /// Bit k is set if it is `box`.
-    unsigned GetEqual(const GridBox& box) const;
-
-private:
-    static constexpr unsigned ALL = (1U << COUNT) - 1U;
+    double m_origin[2];  ///< x, then y
+    float m_scale[2];    ///< numbers to a unit: how many matters little, that they stay the same does
 };
 
 #if defined(__SSE2__)
 
-/// The eight numbers of a quad.
-inline __m128i LoadNumbers(const std::int16_t* numbers) {
-    return _mm_load_si128(reinterpret_cast<const __m128i*>(numbers));
-}
-/// One number for each x, one for each y.
-inline __m128i SpreadNumbers(std::int16_t x, std::int16_t y) {
-    return _mm_unpacklo_epi64(_mm_set1_epi16(x), _mm_set1_epi16(y));
-}
-/// Bits of the four for x, then for y.
-inline unsigned BitsOf(__m128i lanes) {
-    return static_cast<unsigned>(_mm_movemask_epi8(_mm_packs_epi16(lanes, _mm_setzero_si128())));
-}
-
-inline unsigned GridQuad::GetMeeting(const GridBox& box) const {
-    const unsigned beside = BitsOf(_mm_or_si128(_mm_cmpgt_epi16(LoadNumbers(low), SpreadNumbers(box.x1, box.y1)),
-                                                _mm_cmpgt_epi16(SpreadNumbers(box.x0, box.y0), LoadNumbers(high))));
-    return ~(beside | beside >> COUNT) & ALL;
-}
-
-inline unsigned GridQuad::GetOverlapping(const GridBox& box) const {
-    const unsigned within = BitsOf(_mm_and_si128(_mm_cmpgt_epi16(SpreadNumbers(box.x1, box.y1), LoadNumbers(low)),
-                                                 _mm_cmpgt_epi16(LoadNumbers(high), SpreadNumbers(box.x0, box.y0))));
-    return within & within >> COUNT & ALL;
-}
-
-inline unsigned GridQuad::GetEqual(const GridBox& box) const {
-    const unsigned same = BitsOf(_mm_and_si128(_mm_cmpeq_epi16(LoadNumbers(low), SpreadNumbers(box.x0, box.y0)),
-                                               _mm_cmpeq_epi16(LoadNumbers(high), SpreadNumbers(box.x1, box.y1))));
-    return same & same >> COUNT & ALL;
+inline GridSearch Grid::SearchFor(double xMin, double xMax, double yMin, double yMax) const {
+    const __m128d origin = _mm_loadu_pd(m_origin);
+    const __m128d scale = _mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(m_scale))));
+    const __m128d most = _mm_set1_pd(GridBox::FARTHEST);
+    const __m128d least = _mm_set1_pd(-GridBox::FARTHEST);
+    const __m128d sign = _mm_set1_pd(-0.0);
+    const auto numberOf = [&](__m128d v) { return _mm_mul_pd(_mm_sub_pd(v, origin), scale); };
+    const auto limitsOf = [&](__m128d low, __m128d high) {
+        const __m128d up = _mm_max_pd(_mm_min_pd(numberOf(high), most), least);
+        const __m128d down = _mm_max_pd(_mm_min_pd(_mm_xor_pd(numberOf(low), sign), most), least);
+        return _mm_unpacklo_epi64(_mm_cvttpd_epi32(up), _mm_cvttpd_epi32(down));
+    };
+    const __m128d low = _mm_set_pd(yMin, xMin);
+    const __m128d high = _mm_set_pd(yMax, xMax);
+    const __m128d wider = _mm_set1_pd(2.0 * std::fabs(g_distZero));
+    const __m128i limits =
+        _mm_packs_epi32(limitsOf(_mm_sub_pd(low, wider), _mm_add_pd(high, wider)), limitsOf(low, high));
+    const bool isSure = g_distZero >= 0.0 && _mm_movemask_pd(_mm_cmpunord_pd(low, high)) == 0;
+    const __m128i none = _mm_set1_epi16(-GridBox::FARTHEST - 1);
+    return GridSearch(_mm_unpacklo_epi64(limits, limits), isSure ? _mm_unpackhi_epi64(limits, limits) : none);
 }
 
 #else
 
-inline unsigned GridQuad::GetMeeting(const GridBox& box) const {
-    unsigned bits = 0;
-    for (int lane = 0; lane < COUNT; ++lane) {
-        const GridBox b = GetBox(lane);
-        bits |= (b.x0 <= box.x1 && b.x1 >= box.x0 && b.y0 <= box.y1 && b.y1 >= box.y0 ? 1U : 0U) << lane;
-    }
-    return bits;
-}
-
-inline unsigned GridQuad::GetOverlapping(const GridBox& box) const {
-    unsigned bits = 0;
-    for (int lane = 0; lane < COUNT; ++lane) {
-        const GridBox b = GetBox(lane);
-        bits |= (b.x0 < box.x1 && b.x1 > box.x0 && b.y0 < box.y1 && b.y1 > box.y0 ? 1U : 0U) << lane;
-    }
-    return bits;
-}
-
-inline unsigned GridQuad::GetEqual(const GridBox& box) const {
-    unsigned bits = 0;
-    for (int lane = 0; lane < COUNT; ++lane) {
-        const GridBox b = GetBox(lane);
-        bits |= (b.x0 == box.x0 && b.x1 == box.x1 && b.y0 == box.y0 && b.y1 == box.y1 ? 1U : 0U) << lane;
-    }
-    return bits;
+inline GridSearch Grid::SearchFor(double xMin, double xMax, double yMin, double yMax) const {
+    const double wider = 2.0 * std::fabs(g_distZero);
+    const QnGeExtent2d box(xMin, xMax, yMin, yMax);
+    const GridBox wide = GridBox::Of(NumberOf(X(xMin - wider)), NumberOf(Y(yMin - wider)), NumberOf(X(xMax + wider)),
+                                     NumberOf(Y(yMax + wider)));
+    const GridBox exact = g_distZero >= 0.0 ? BoxOf(box) : GridBox::Empty();
+    return GridSearch(wide.Limits(), exact.Limits());
 }
 
 #endif

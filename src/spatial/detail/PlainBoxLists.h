@@ -2,7 +2,8 @@
 #pragma once
 
 #include "containers/QnList.h"
-#include "spatial/detail/BoxResult.h"
+#include "spatial/detail/FoundBoxes.h"
+#include "spatial/detail/ReadAhead.h"
 #include "spatial/detail/SectorTree.h"
 
 namespace qn_detail {
@@ -27,22 +28,22 @@ struct PlainBoxLists {
         return nullptr;
     }
 
-    static void ReadAhead(const Tree&) {}
-    static void HitPoint(const Tree& node, const QnGePoint& at, BoxResult<Box>& result) {
+    static void ReadAhead(const Tree& node) { qn_detail::ReadAhead(node.ExtentList); }
+    static void HitPoint(const Tree& node, const QnGePoint& at, FoundBoxes<Box>& result) {
         AppendHits(
             *node.ExtentList, [&at](const Box& box) { return Sectors::Holds(box, at); }, result);
     }
-    static void HitBox(const Tree& node, const Box& searched, BoxResult<Box>& result) {
+    static void HitBox(const Tree& node, const Box& searched, FoundBoxes<Box>& result) {
         AppendHits(
             *node.ExtentList, [&searched](const Box& box) { return box.IsInsersectWith(searched); }, result);
     }
 
 private:
     template <class IsHit>
-    static void AppendHits(const QnList<Box*>& list, IsHit isHit, BoxResult<Box>& result) {
+    static void AppendHits(const QnList<Box*>& list, IsHit isHit, FoundBoxes<Box>& result) {
         for (Box* const* entry = list.GetFirst(); entry != nullptr; entry = list.GetNext(entry)) {
             if (isHit(**entry)) {
-                AppendTo(result, *entry);
+                result.Append(*entry);
             }
         }
     }

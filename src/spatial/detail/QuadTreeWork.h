@@ -12,7 +12,7 @@ namespace qn_detail {
 struct OrderedBoxLists {
     using Tree = QnGeQuadTree2d;
     using Box = QnGeExtent2d;
-    using Boxes = BoxResult<Box>;
+    using Found = FoundBoxes<Box>;
     using Plain = PlainBoxLists<Tree, PlanSectors<Tree>>;
 
     static void Append(Tree& node, Box* box) {
@@ -32,14 +32,9 @@ struct OrderedBoxLists {
         return list != nullptr ? list->Take(box) : Plain::Take(node, box);
     }
 
-    static void ReadAhead(const Tree& node) {
-        const BoxList* const list = BoxList::From(node.ExtentList);
-        if (list != nullptr) {
-            list->ReadNodesAhead();
-        }
-    }
+    static void ReadAhead(const Tree& node) { qn_detail::ReadAhead(static_cast<const BoxList*>(node.ExtentList)); }
 
-    static void HitPoint(const Tree& node, const QnGePoint& at, Boxes& result) {
+    static void HitPoint(const Tree& node, const QnGePoint& at, Found& result) {
         BoxList* const list = BoxList::From(node.ExtentList);
         if (list != nullptr) {
             list->Find(at.x, at.y, result);
@@ -48,7 +43,7 @@ struct OrderedBoxLists {
         }
     }
 
-    static void HitBox(const Tree& node, const Box& box, Boxes& result) {
+    static void HitBox(const Tree& node, const Box& box, Found& result) {
         BoxList* const list = BoxList::From(node.ExtentList);
         if (list != nullptr) {
             list->Find(box, result);

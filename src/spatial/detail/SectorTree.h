@@ -35,12 +35,11 @@ struct SectorTree : Kind::Sectors {
     }
 
     static bool HasChild(const Tree& tree) {
+        bool hasChild = false;
         for (const Tree* child : tree.Child) {
-            if (child != nullptr) {
-                return true;
-            }
+            hasChild |= child != nullptr;  // one branch in all
         }
-        return false;
+        return hasChild;
     }
 
     static bool IsEmpty(const Tree& tree) {
