@@ -26,7 +26,7 @@ constexpr double INF = std::numeric_limits<double>::infinity();
 constexpr double NOT_A_NUMBER = std::numeric_limits<double>::quiet_NaN();
 
 /// Lists that are short, middling and long.
-constexpr int LENGTHS[] = {1, 2, 3, 5, 20, 63, 64, 65, 100, 200};
+constexpr int LENGTHS[] = {1, 2, 3, 4, 5, 20, 64, 96, 97, 200};
 
 /// A tree over -8 .. 8 on both axes.
 struct Tree16 : QnGeQuadTree2d {

@@ -3,14 +3,14 @@
 // BoxList.cpp: the list of one tree node's boxes, kept so that little memory is touched.
 //
 // What a tree does is mostly waiting for memory: a list node here, the box that it points to there. So a list has no
-// nodes, as long as nobody but the tree works on it. Its boxes stand in a row of pairs, each box on a grid over the tree
-// node's range beside the pointer to it:
+// nodes, as long as nobody but the tree works on it. Its boxes stand in a row of pairs, each box on a grid over the
+// tree node's range beside the pointer to it:
 //
 //      | 0 on the grid | 1 on the grid | 0 | 1 |   | 2 on the grid | 3 on the grid | 2 | 3 |   ...
 //
-// A search reads the boxes on the grid. Most of those it meets are surely met by what the grid says; only for the others
-// the boxes themselves are read. Most lists have one box or two: their row is in the list object. A long list has
-// a BoxOrder, and nodes.
+// A search reads the boxes on the grid. Most of those it meets are surely met by what the grid says; only for the
+// others the boxes themselves are read. Most lists have one box or two: their row is in the list object. A long list
+// has a BoxOrder, and nodes.
 //
 // States     in a row   for up to MOST_IN_ROW boxes
 //            ordered    for more

@@ -7,8 +7,8 @@ namespace qn_detail {
 
 /// Room for boxes that a search finds, which pass to an array when it is full and in the end.
 ///
-/// Whether a box is found can seldom be foreseen, and to wait for each answer costs more than all else. So one can write
-/// all candidates into the room, each over the former if that was none:
+/// Whether a box is found can seldom be foreseen, and to wait for each answer costs more than all else. So one can
+/// write all candidates into the room, each over the former if that was none:
 ///
 ///     Box** const room = found.GetRoom(candidates);
 ///     room[count] = candidate;

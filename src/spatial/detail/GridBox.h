@@ -132,8 +132,8 @@ public:
 
     /// For what meets or touches a box by the tests of extents, under their tolerance.
     ///
-    /// Tolerance  The grid keeps the order of coordinates, and so does all rounding. So a box on the grid misses nothing
-    ///            that was widened by twice the tolerance before; and what is less by its number is less.
+    /// Tolerance  The grid keeps the order of coordinates, and so does all rounding. So what was widened by twice the
+    ///            tolerance before misses nothing on the grid; and what is less by its number is less.
     GridSearch SearchFor(double xMin, double xMax, double yMin, double yMax) const;
     GridSearch SearchFor(const QnGeExtent2d& box) const {
         return SearchFor(box.x.min, box.x.max, box.y.min, box.y.max);

@@ -32,7 +32,7 @@ struct OrderedBoxLists {
         return list != nullptr ? list->Take(box) : Plain::Take(node, box);
     }
 
-    static void ReadAhead(const Tree& node) { qn_detail::ReadAhead(static_cast<const BoxList*>(node.ExtentList)); }
+    static void ReadAhead(const Tree& node) { qn_detail::ReadAhead(node.ExtentList, sizeof(BoxList)); }
 
     static void HitPoint(const Tree& node, const QnGePoint& at, Found& result) {
         BoxList* const list = BoxList::From(node.ExtentList);

@@ -13,15 +13,19 @@ constexpr std::size_t InWholeLines(std::size_t bytes) {
     return (bytes + CACHE_LINE - 1) / CACHE_LINE * CACHE_LINE;
 }
 
-/// Asks for an object that will be read soon, so that it comes while something else is done. Null does no
-/// harm, but takes longer than asking whether it is.
+/// Asks for memory that will be read soon, so that it comes while something else is done. Null does no harm, but takes
+/// longer than asking whether it is.
+inline void ReadAhead(const void* memory, std::size_t bytes) {
+    const auto address = reinterpret_cast<std::uintptr_t>(memory);
+    __builtin_prefetch(reinterpret_cast<const void*>(address));
+    if (bytes > CACHE_LINE / 2) {
+        __builtin_prefetch(reinterpret_cast<const void*>(address + bytes - 1));
+    }
+}
+
 template <class T>
 void ReadAhead(const T* object) {
-    const auto address = reinterpret_cast<std::uintptr_t>(object);
-    __builtin_prefetch(reinterpret_cast<const void*>(address));
-    if (sizeof(T) > CACHE_LINE / 2) {
-        __builtin_prefetch(reinterpret_cast<const void*>(address + sizeof(T) - 1));
-    }
+    ReadAhead(object, sizeof(T));
 }
 
 }  // namespace qn_detail

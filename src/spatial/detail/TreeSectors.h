@@ -44,8 +44,8 @@ inline unsigned GetAbove(double x, double y, double otherX, double otherY) {
 #endif
 }
 
-/// The number of the quarter right above the centre (0), left above (1), left below (2), right below (3). A box is above
-/// or below the centre along an axis only if it is so as a whole, by more than the tolerance.
+/// The number of the quarter right above the centre (0), left above (1), left below (2), right below (3). A box is
+/// above or below the centre along an axis only if it is so as a whole, by more than the tolerance.
 ///
 /// Cost  One branch: on the way down nobody can foresee more than that it goes on.
 template <class Item>
