@@ -29,8 +29,7 @@ constexpr double MARGIN = 10.0;
 
 // ---- making ----------------------------------------------------------------------------------------
 
-QnGeTINGraph::QnGeTINGraph()
-    : m_tree(new qn_detail::TriangleTree(TrgTree)), m_finder(new qn_detail::TriangleFinder) {}
+QnGeTINGraph::QnGeTINGraph() : m_tree(new qn_detail::TriangleTree(TrgTree)), m_finder(new qn_detail::TriangleFinder) {}
 
 QnGeTINGraph::~QnGeTINGraph() = default;
 
