@@ -192,7 +192,7 @@ void BoxList::DropOrder() {
 }
 
 /// Makes all elements nodes, which nothing else looks at.
-void BoxList::Loosen() {
+void BoxList::MakeNodes() {
     DropOrder();
     if (!IsInRow()) {
         return;
@@ -214,7 +214,7 @@ void BoxList::Loosen() {
 /// With the cursor on it, as appending leaves it.
 void BoxList::Add(Box* box, const Box& range) {
     if (m_nLength >= MOST_IN_ROW && !IsOrdered()) {
-        Loosen();
+        MakeNodes();
         Order(range);
     } else if (m_state == State::LOOSE) {
         Arrange(Grid(range));
@@ -410,95 +410,6 @@ void BoxList::MoveToPre() {
         return;
     }
     m_nCur = m_nCur < 0 ? m_nLength - 1 : m_nCur - 1;
-}
-
-// ---- operations that write, or go where writing starts ---------------------------------------------
-
-void BoxList::ReAllocate(long length) {
-    Loosen();
-    Base::ReAllocate(length);
-}
-
-void BoxList::SetLength(long length, bool keep) {
-    Loosen();
-    Base::SetLength(length, keep);
-}
-
-void BoxList::Reset() {
-    Loosen();
-    Base::Reset();
-}
-
-QnGeExtent2d*& BoxList::GetCurData() {
-    Loosen();
-    return Base::GetCurData();
-}
-
-void BoxList::SetCurData(Box* const& value) {
-    Loosen();
-    Base::SetCurData(value);
-}
-
-/// Conbine goes to the first element that it takes from a list before it takes it.
-void BoxList::MoveTo(long index) {
-    Loosen();
-    Base::MoveTo(index);
-}
-
-/// Exchanging elements gets them so and writes them.
-QnGeExtent2d* const& BoxList::GetAt(long index) const {
-    const_cast<BoxList*>(this)->Loosen();
-    return Base::GetAt(index);
-}
-
-QnGeExtent2d*& BoxList::operator[](long index) {
-    Loosen();
-    return Base::operator[](index);
-}
-
-void BoxList::DelCur() {
-    Loosen();
-    Base::DelCur();
-}
-
-void BoxList::Sort(int (*compare)(Box* const&, Box* const&)) {
-    Loosen();
-    Base::Sort(compare);
-}
-
-void BoxList::Sort(bool ascending) {
-    Loosen();
-    Base::Sort(ascending);
-}
-
-bool BoxList::Move(long from, long to) {
-    Loosen();
-    return Base::Move(from, to);
-}
-
-void BoxList::InsertAfterCur(Box* const& value) {
-    Loosen();
-    Base::InsertAfterCur(value);
-}
-
-void BoxList::DetachAfterCur() {
-    Loosen();
-    Base::DetachAfterCur();
-}
-
-long BoxList::Conbine(Base& other, long first) {
-    Loosen();
-    return Base::Conbine(other, first);
-}
-
-void BoxList::ReverseList() {
-    Loosen();
-    Base::ReverseList();
-}
-
-void BoxList::Rotate(long from, long to) {
-    Loosen();
-    Base::Rotate(from, to);
 }
 
 }  // namespace qn_detail

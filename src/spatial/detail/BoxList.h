@@ -8,6 +8,7 @@
 #include "spatial/detail/BoxOrder.h"
 #include "spatial/detail/FoundBoxes.h"
 #include "spatial/detail/GridBox.h"
+#include "spatial/detail/NodelessList.h"
 #include "spatial/detail/ReadAhead.h"
 #include "values/QnGeExtent2d.h"
 
@@ -17,15 +18,13 @@ namespace qn_detail {
 /// boxes without going from node to node and from there to boxes all over the memory.
 ///
 /// See  BoxList.cpp for how it is kept
-class BoxList final : public QnList<QnGeExtent2d*>, private Grid {
+class BoxList final : public NodelessList, private Grid {
     using Base = QnList<QnGeExtent2d*>;
     using Box = QnGeExtent2d;
 
 public:
     BoxList() = default;
     ~BoxList() override;
-    BoxList(const BoxList&) = delete;
-    BoxList& operator=(const BoxList&) = delete;
 
     /// The list as a BoxList; null if a caller made it.
     static BoxList* From(Base* list) {
@@ -49,37 +48,18 @@ public:
     static void* operator new(std::size_t bytes) { return TakePiece(InWholeLines(bytes)); }
     static void operator delete(void* list, std::size_t bytes) { GivePiece(list, InWholeLines(bytes)); }
 
-    // ---- operations of lists: all that touch nodes ------------------------------------------------
-protected:
-    void ReAllocate(long length) override;
-
-public:
-    void SetLength(long length, bool keep) override;
-    void Reset() override;
-    Box*& GetCurData() override;
-    void SetCurData(Box* const& value) override;
+    // ---- operations of lists that only go through it, by which a row stays ------------------------
     void MoveToFirst() override;
     void MoveToNext() override;
     void MoveToPre() override;
     void MoveToLast() override;
-    void MoveTo(long index) override;
     Box* const* GetFirst() const override;
     Box* const* GetNext(Box* const* element) const override;
     Box* const* GetPre(Box* const* element) const override;
     Box* const* GetLast() const override;
-    Box* const& GetAt(long index) const override;
-    Box*& operator[](long index) override;
-    void DelCur() override;
-    void Sort(int (*compare)(Box* const&, Box* const&)) override;
-    void Sort(bool ascending) override;
-    bool Move(long from, long to) override;
-    void InsertAfterCur(Box* const& value) override;
-    void DetachAfterCur() override;
-    long Conbine(Base& other, long first) override;
-    void ReverseList() override;
-    void Rotate(long from, long to) override;
 
-    using Base::operator[];
+protected:
+    void MakeNodes() override;
 
 private:
     static constexpr long MOST_IN_ROW = 96;      ///< a longer list is ordered
@@ -118,7 +98,6 @@ private:
 
     void Arrange(const Grid& grid);
     void Order(const Box& range);
-    void Loosen();
     void DropOrder();
     void AddToOrder(Box* box);
     BoxNode* FindNode(const Box* box) const;
