@@ -8,7 +8,7 @@ namespace qn_detail {
 
 namespace {
 
-constexpr long NODES_TO_CELL = 4;
+constexpr long NODES_TO_CELL = 2;
 constexpr long ENTRIES_TO_CELL = 2;
 
 /// The cell along one axis; what lies far beside the range, or is no number, is in cell 0.

@@ -42,7 +42,7 @@ namespace qn_detail {
 
 namespace {
 
-constexpr long FAR_START = 256;             ///< steps for which a nearer start is worth looking up
+constexpr long FAR_START = 512;             ///< steps for which a nearer start is worth looking up
 constexpr double SHORTEST_EDGE = 4.0;       ///< in tolerances
 constexpr double CLEAR = 16.0;              ///< of triangles, in tolerances
 constexpr double CLEAR_OF_LINES = 8.0;      ///< of hull edges' lines, in tolerances times the stretch
@@ -207,16 +207,16 @@ bool TriangleFinder::Find(const QnGeTINNode& node, const WalkStart& start, const
     t = t != nullptr ? t : start.triangle;
     for (long step = 0; step < start.mostSteps; ++step) {
         const Sides sides(node, *t);
-        const double size = SizeOf(*t);
         const int least = sides.GetLeast();
         QnGeTINTriangle* const beyond = t->NearTrg[least];
-        if (beyond != nullptr && sides.area[least] < -margin * size) {
+        if (beyond != nullptr && sides.area[least] < 0.0) {  // and from there exactly as much above 0: no way back
             t = beyond;
             continue;
         }
         if (isFar) {
             m_starts.Keep(node, t);
         }
+        const double size = SizeOf(*t);
         if (sides.area[least] >= wideMargin * size) {
             hit.triangle = t;
             return TriangleTree::IsIn(*t);

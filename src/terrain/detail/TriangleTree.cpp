@@ -143,7 +143,7 @@ WalkStart TriangleTree::GetNear(const QnGePoint& point) {
     while ((sector = Sectors::Of(*m_last, point)) != NO_SECTOR && m_last->Child[sector] != nullptr) {
         m_last = m_last->Child[sector];
     }
-    constexpr long FEW_STEPS = 64;
+    constexpr long FEW_STEPS = 256;
     for (Tree* cell = m_last;; cell = &ParentOf(*cell)) {
         if (cell->OneExtent != nullptr) {
             return {static_cast<QnGeTINTriangle*>(cell->OneExtent), FEW_STEPS};
