@@ -13,14 +13,14 @@
 // have a single u and are passed over although p lies on their line.
 //
 // Phases     1  BoundsOf    bounds of a block from its edges, when something in it has changed.
-//            2  GroupOf     those of a group of blocks from the blocks.
+//            2  GroupOf     those of a group of blocks from the blocks, and of groups from groups.
 //            3  FindNext    groups, in those that may hold an edge blocks, in those edges one by one.
 // Invariant  Blocks stand in the order of the ring. The last edge of a block ends at the first node of the next, so a
 //            change stales the block before it as well.
 // Why so     Nothing is assumed of the hull: not that it is convex, nor that its edges have any length. The bound takes
 //            in the rounding of the walk's own formula, which for short edges far from p exceeds the tolerance; such a
 //            block is walked.
-// Cost       For h edges about h / 500 + 50 steps to find one; h / 32 moves to change one.
+// Cost       For h edges about h / 3000 + 30 steps to find one; h / 32 moves to change one.
 #include "terrain/detail/HullIndex.h"
 
 #include <algorithm>
@@ -31,7 +31,7 @@ namespace qn_detail {
 namespace {
 
 constexpr long MOST = 32;           ///< edges of a block
-constexpr long GROUP = 16;          ///< blocks of a group
+constexpr long GROUP = 8;           ///< blocks of a group, and groups of one above
 constexpr double ROUNDING = 1e-14;  ///< above all errors of the few operations here, in parts of their operands
 constexpr double NEAR = 5.0;        ///< how far beyond its box, in tolerances, an edge can take a node; in truth 4
 
@@ -157,24 +157,48 @@ const HullIndex::Bounds& HullIndex::BoundsOf(long at) {
     return block.bounds;
 }
 
-const HullIndex::Group& HullIndex::GroupOf(long at) {
-    const long needed = (m_blocks.GetLength() + GROUP - 1) / GROUP;
-    while (m_groups.GetLength() < needed) {
-        m_groups.AppendUnset().stale = true;
+/// How many blocks a group has at the most.
+long HullIndex::BlocksOf(int level) {
+    return level == 0 ? GROUP : GROUP * GROUP;
+}
+
+const HullIndex::Group& HullIndex::GroupOf(int level, long at) {
+    PodArray<Group>& groups = m_groups[level];
+    const long blocks = BlocksOf(level);
+    const long needed = (m_blocks.GetLength() + blocks - 1) / blocks;
+    while (groups.GetLength() < needed) {
+        groups.AppendUnset().stale = true;
     }
-    Group& group = m_groups[at];
+    Group& group = groups[at];
     if (group.stale) {
-        const long first = at * GROUP;
-        const long end = std::min(first + GROUP, m_blocks.GetLength());
-        group.bounds = BoundsOf(first);
-        group.count = m_blocks[first].count;
-        for (long i = first + 1; i < end; ++i) {
-            group.bounds.Add(BoundsOf(i));
-            group.count += m_blocks[i].count;
-        }
-        group.stale = false;
+        group = Gather(level, at);
     }
     return group;
+}
+
+/// A group from what it is made of.
+HullIndex::Group HullIndex::Gather(int level, long at) {
+    const long parts = level == 0 ? m_blocks.GetLength() : (m_blocks.GetLength() + GROUP - 1) / GROUP;
+    const auto part = [this, level](long i) {
+        return level == 0 ? Group{BoundsOf(i), m_blocks[i].count, false} : GroupOf(level - 1, i);
+    };
+    const long first = at * GROUP;
+    const long end = std::min(first + GROUP, parts);
+    Group group = part(first);
+    for (long i = first + 1; i < end; ++i) {
+        const Group next = part(i);
+        group.bounds.Add(next.bounds);
+        group.count += next.count;
+    }
+    return group;
+}
+
+/// Groups from that of a block on are no more true.
+void HullIndex::ShortenGroups(long block) {
+    for (int level = 0; level < LEVELS; ++level) {
+        PodArray<Group>& groups = m_groups[level];
+        groups.Shorten(std::min(groups.GetLength(), block / BlocksOf(level)));
+    }
 }
 
 /// A block has changed, or its successor has.
@@ -182,8 +206,10 @@ void HullIndex::MakeStale(long at) {
     const long before = at > 0 ? at - 1 : m_blocks.GetLength() - 1;
     for (const long changed : {at, before}) {
         m_blocks[changed].block->stale = true;
-        if (changed / GROUP < m_groups.GetLength()) {
-            m_groups[changed / GROUP].stale = true;
+        for (int level = 0; level < LEVELS; ++level) {
+            if (changed / BlocksOf(level) < m_groups[level].GetLength()) {
+                m_groups[level][changed / BlocksOf(level)].stale = true;
+            }
         }
     }
 }
@@ -209,6 +235,23 @@ void HullIndex::KeepLocated(long at, long start) {
     m_locatedStart = start;
 }
 
+/// Goes over the largest group that begins at a block, if it can be passed over.
+bool HullIndex::PassGroup(const QnGePoint& node, long& at, long& index) {
+    for (int level = LEVELS - 1; level >= 0; --level) {
+        const long blocks = BlocksOf(level);
+        if (at % blocks != 0) {
+            continue;
+        }
+        const Group& group = GroupOf(level, at / blocks);
+        if (group.bounds.CanPass(node)) {
+            index += group.count;
+            at += blocks;
+            return true;
+        }
+    }
+    return false;
+}
+
 long HullIndex::FindNext(const QnGePoint& node, long& index, Entry& entry) {
     if (index >= m_length) {
         return 0;
@@ -217,13 +260,8 @@ long HullIndex::FindNext(const QnGePoint& node, long& index, Entry& entry) {
     long offset = 0;
     Locate(index, at, offset);
     while (at < m_blocks.GetLength()) {
-        if (offset == 0 && at % GROUP == 0) {
-            const Group& group = GroupOf(at / GROUP);
-            if (group.bounds.CanPass(node)) {
-                index += group.count;
-                at += GROUP;
-                continue;
-            }
+        if (offset == 0 && PassGroup(node, at, index)) {
+            continue;
         }
         const BlockRef& ref = m_blocks[at];
         if (offset > 0 || !BoundsOf(at).CanPass(node)) {
@@ -250,7 +288,7 @@ void HullIndex::SplitBlock(long at, long offset) {
     m_blocks[at + 1] = {rest, count - offset};
     rest->stale = true;
     m_blocks[at].block->stale = true;
-    m_groups.Shorten(std::min(m_groups.GetLength(), at / GROUP));
+    ShortenGroups(at);
 }
 
 void HullIndex::RemoveBlock(long at) {
@@ -258,7 +296,7 @@ void HullIndex::RemoveBlock(long at) {
     delete m_blocks[at].block;
     std::copy(m_blocks.begin() + at + 1, m_blocks.end(), m_blocks.begin() + at);
     m_blocks.Shorten(m_blocks.GetLength() - 1);
-    m_groups.Shorten(std::min(m_groups.GetLength(), at / GROUP));
+    ShortenGroups(at);
 }
 
 void HullIndex::Remove(long index, long count) {
@@ -298,11 +336,13 @@ void HullIndex::ReplaceOne(long at, long offset, Entry first, Entry second) {
     if (!block.stale) {
         widen(block.bounds);
     }
-    if (at / GROUP < m_groups.GetLength()) {
-        Group& group = m_groups[at / GROUP];
-        ++group.count;
-        if (!group.stale) {
-            widen(group.bounds);
+    for (int level = 0; level < LEVELS; ++level) {
+        if (at / BlocksOf(level) < m_groups[level].GetLength()) {
+            Group& group = m_groups[level][at / BlocksOf(level)];
+            ++group.count;
+            if (!group.stale) {
+                widen(group.bounds);
+            }
         }
     }
 }
@@ -339,7 +379,7 @@ void HullIndex::Rotate(long index) {
     }
     KeepLocated(0, 0);
     std::rotate(m_blocks.begin(), m_blocks.begin() + at, m_blocks.end());
-    m_groups.Clear();
+    ShortenGroups(0);
 }
 
 }  // namespace qn_detail

@@ -60,6 +60,7 @@ private:
         long count;  ///< of edges
         bool stale;
     };
+    static constexpr int LEVELS = 2;
     struct BlockRef {
         Block* block;
         long count;
@@ -68,7 +69,11 @@ private:
     BlockRef& Locate(long index, long& at, long& offset);
     void KeepLocated(long at, long start);
     const Bounds& BoundsOf(long at);
-    const Group& GroupOf(long at);
+    const Group& GroupOf(int level, long at);
+    Group Gather(int level, long at);
+    bool PassGroup(const QnGePoint& node, long& at, long& index);
+    void ShortenGroups(long block);
+    static long BlocksOf(int level);
     const QnGePoint& EndOf(long at) const;
     void SplitBlock(long at, long offset);
     void RemoveBlock(long at);
@@ -76,8 +81,8 @@ private:
     void ReplaceOne(long at, long offset, Entry first, Entry second);
     void MakeStale(long at);
 
-    PodArray<BlockRef> m_blocks;  ///< in ring order, none empty
-    PodArray<Group> m_groups;     ///< of GROUP blocks each, by their places
+    PodArray<BlockRef> m_blocks;       ///< in ring order, none empty
+    PodArray<Group> m_groups[LEVELS];  ///< of GROUP blocks each, by their places; then of GROUP such groups
     long m_length = 0;
     long m_located = 0;       ///< the block looked at last
     long m_locatedStart = 0;  ///< the index of its first edge
