@@ -40,7 +40,17 @@ enum : std::uint32_t {
 /// Invariant  The circle is computed when it is asked for. Whoever changes a node sets Radius to -1, as PushLOP does.
 class QUARNGEO_API QnGeTINTriangle : public QnGeExtent2d, public QnBitData {
     friend struct qn_detail::TreePlace;
-    std::uint32_t m_place = 0;  ///< in the list of its cell; first, for it fits in behind the flag word
+
+    /// What belongs to this very object: copying and assigning leave it.
+    template <class T>
+    struct Own {
+        T value{};
+
+        Own() = default;
+        Own(const Own&) {}
+        Own& operator=(const Own&) { return *this; }
+    };
+    Own<std::uint32_t> m_place;  ///< in the list of its cell; first, for it fits in behind the flag word
 
 public:
     QnGeTINNode* Node[3] = {nullptr, nullptr, nullptr};
@@ -103,15 +113,7 @@ public:
     bool CanSwapDiagonalLine() const;
 
 private:
-    /// The cell of the network's tree in which the triangle stands. A copy stands nowhere.
-    struct TreeCell {
-        QnGeQuadTree2d* cell = nullptr;
-
-        TreeCell() = default;
-        TreeCell(const TreeCell&) {}
-        TreeCell& operator=(const TreeCell&) { return *this; }
-    };
-    TreeCell m_cell;
+    Own<QnGeQuadTree2d*> m_cell;  ///< of the network's tree, in which the triangle stands
 
     double DistanceTo(const QnGePoint& p) const;
     void ComputeCircle();

@@ -71,14 +71,10 @@ public:
 
     const std::vector<Box*>& Get() const { return m_list; }
     long GetLength() const { return static_cast<long>(m_list.size()); }
-    /// Out, on the first and on the last.
     std::vector<long> Cursors() const {
-        std::vector<long> cursors = {-1};
-        if (GetLength() > 0) {
-            cursors.push_back(0);
-        }
-        if (GetLength() > 1) {
-            cursors.push_back(GetLength() - 1);
+        std::vector<long> cursors;
+        for (long i = -1; i < GetLength(); ++i) {
+            cursors.push_back(i);
         }
         return cursors;
     }
@@ -142,11 +138,11 @@ TEST(NodelessList, OperationsMadeOfOthersAreThoseOfAPlainList) {
 
 TEST(NodelessList, AnythingCanFollowAnything) {
     const std::vector<Operation> all = list_operations::AllOperations();
-    const Sample sample(4);
+    const Sample sample(5);
     for (const Operation& first : all) {
         for (const Operation& second : all) {
-            Kept kept(sample.Get(), 3);
-            PlainList plain(sample.Get(), 3);
+            Kept kept(sample.Get(), 2);
+            PlainList plain(sample.Get(), 2);
             first.run(kept);
             first.run(plain);
             ASSERT_EQ(Compare(second, kept, plain), "") << "after " << first.name;

@@ -476,3 +476,14 @@ TEST(TriangleList, AnIndexedListComesToNodesAsAnyOther) {
         }
     }
 }
+
+TEST(TriangleList, PutsTheCursorOutWhenATriangleLeavesItsNodes) {
+    TriangleList list;
+    Triangle a;
+    Triangle b;
+    list.Add(&a, QnGeExtent2d(-1.0, 1.0, -1.0, 1.0));
+    list.Add(&b, QnGeExtent2d(-1.0, 1.0, -1.0, 1.0));
+    list.MoveToFirst();
+    list.Remove(&b);
+    EXPECT_EQ(list.GetCur(), -1);
+}

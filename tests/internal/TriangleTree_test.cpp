@@ -149,6 +149,15 @@ TEST(TriangleTree, AListInNodesMakesASearchUnsure) {
     EXPECT_EQ(Ask(triangle, 0.0, 0.5), Asked::UNSURE);
 }
 
+TEST(TriangleTree, KnowsATriangleThatWasAssignedAnother) {
+    Trees trees(SQUARE);
+    Triangle* const a = trees.Add(ACROSS);
+    Triangle* const b = trees.Add(ACROSS);
+    *a = *b;
+    trees.Delete(a);
+    EXPECT_EQ(trees.CompareByNodes(), "");
+}
+
 TEST(TriangleTree, GoesOnWithAListThatHasBeenRead) {
     Trees trees(SQUARE);
     trees.Add(ACROSS);
@@ -237,7 +246,7 @@ TEST(TriangleTree, ATreeWithoutRangeKeepsAllInItsRoot) {
 namespace {
 
 /// What happens in the middle of a history.
-enum class Trouble { NONE, PLAIN, TOLERANCE, TWICE };
+enum class Trouble { NONE, READ, PLAIN, TOLERANCE, TWICE };
 
 class History {
 public:
@@ -378,6 +387,9 @@ private:
         } else {
             ASSERT_NO_FATAL_FAILURE(Ask(AnyPoint()));
         }
+        if (m_trouble == Trouble::READ && m_random.OneIn(30)) {
+            ReadLists(m_trees.GetRoot());
+        }
     }
 
     void Ask(const QnGePoint& point) {
@@ -391,6 +403,18 @@ private:
     }
 
     void Compare() { ASSERT_EQ(m_isPlain ? m_trees.CompareByNodes() : m_trees.CompareByPlaces(), ""); }
+
+    /// Somebody looks at some of the lists.
+    void ReadLists(const QnGeQuadTree2d& cell) {
+        if (cell.ExtentList != nullptr && m_random.Coin()) {
+            cell.ExtentList->MoveTo(m_random.Long(-1, cell.ExtentList->GetLength() - 1));
+        }
+        for (const QnGeQuadTree2d* child : cell.Child) {
+            if (child != nullptr) {
+                ReadLists(*child);
+            }
+        }
+    }
 
     void MakeTrouble() {
         switch (m_trouble) {
@@ -452,6 +476,10 @@ void RunHistories(Trouble trouble, unsigned count) {
 
 TEST(TriangleTree, DoesWhatTheTreeDoesFromItsRoot) {
     RunHistories(Trouble::NONE, 300);
+}
+
+TEST(TriangleTree, GoesOnWithListsThatHaveBeenRead) {
+    RunHistories(Trouble::READ, 100);
 }
 
 TEST(TriangleTree, GoesPlainInTheMiddle) {

@@ -4,9 +4,11 @@
 namespace qn_detail {
 
 void NodelessList::FinishNodes() {
+    const long cur = m_nCur;
     m_pTail = m_pHead->previous;
     DropHint();
-    m_pCurrent = m_nCur >= 0 ? NodeAt(m_nCur) : m_pHead;
+    GoOut();  // the current node is none to look from
+    Base::MoveTo(cur);
 }
 
 void NodelessList::ReAllocate(long length) {

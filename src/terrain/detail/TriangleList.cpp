@@ -40,6 +40,7 @@ void TriangleList::FreeRow() {
 
 void TriangleList::Add(QnGeTINTriangle* triangle, const QnGeExtent2d& range) {
     if (m_hasNodes) {
+        TreePlace::SetPlace(*triangle, 0);
         Append(triangle);
         return;
     }
@@ -65,6 +66,7 @@ void TriangleList::Remove(QnGeTINTriangle* triangle) {
             MoveToNext();
         }
         DelCur();
+        GoOut();
         return;
     }
     m_row[TreePlace::PlaceOf(*triangle)] = nullptr;

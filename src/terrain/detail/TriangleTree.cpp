@@ -104,6 +104,9 @@ void TriangleTree::Insert(QnGeTINTriangle* triangle) {
 }
 
 void TriangleTree::Delete(QnGeTINTriangle* triangle) {
+    if (Work::IsEmpty(m_root)) {
+        return;
+    }
     m_isPlain = m_isPlain || g_distZero != m_tolerance;
     if (m_isPlain) {
         PlainWork::Take(m_root, triangle);
