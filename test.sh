@@ -18,7 +18,7 @@ case "${1:-}" in
 esac
 
 tools/ensure_packages.sh g++ cmake ninja-build libgtest-dev
-$quick || tools/ensure_packages.sh clang pkg-config
+$quick || tools/ensure_packages.sh clang gdb pkg-config
 
 run_preset() {
     echo

@@ -10,6 +10,9 @@ __attribute__((noinline)) void StopHere() {
     asm volatile("");  // not to be left out
 }
 
+template <class... T>
+void Keep(const T&...) {}  // what nobody else uses
+
 /// Memory in which an object was to be: an object that was never made, or over which somebody wrote.
 template <class T>
 struct Garbage {
@@ -17,6 +20,16 @@ struct Garbage {
 
     explicit Garbage(int filling) { std::memset(bytes, filling, sizeof(T)); }
     T& Get() { return *reinterpret_cast<T*>(bytes); }
+};
+
+/// A sequence of 1 and 2 whose length somebody wrote over.
+template <class Sequence>
+struct WrongLength : Sequence {
+    explicit WrongLength(long length) {
+        *this << 1 << 2;
+        this->m_nLength = length;
+    }
+    ~WrongLength() override { this->m_nLength = 2; }
 };
 
 /// As callers derive: a class of which the printers have not heard.
@@ -112,7 +125,9 @@ int main() {
     chain.List().Append(new QnGeArc2d(QnGePoint(1, 1), 1, 4.5, 1.5));
     QnGePolygon2d polygon(MakeTriangleLine(4), false);
     QnGeGeneralPolygon2d holed(MakeTriangleLine(4), false);
+    holed.AppendHole(new QnGeMLine2d(2), false);
     QnGeGeneralRegion2d region(circle, false);
+    region.AppendHole(new QnGeCircle2d(QnGePoint(1, 2), 1), false);
     region.SetBit(OBJ_NO_BOUNDARY_INTER);
     QnGeGeneralRegion2d plane;
     QnGeLine3d shell;
@@ -126,7 +141,7 @@ int main() {
 
     // ---- trees and networks ----------------------------------------------------------------------
     QnGeExtent2d crossing(QnGeExtent(3, 5), QnGeExtent(3, 5));
-    QnGeExtent2d corner(QnGeExtent(6, 7), QnGeExtent(6, 7));
+    QnGeExtent2d corner(QnGeExtent(6.5, 7), QnGeExtent(6.5, 7));
     QnGeQuadTree2d tree;
     tree.SetRange(0, 8, 0, 8);
     tree.Insert(&crossing);
@@ -149,11 +164,23 @@ int main() {
     network.MakeTIN();
     QnGeTINTriangle triangle;
     triangle.SetBits(TRG_VISITED | TRG_IN_TREE);
+    QnGeTINNode corners[] = {QnGeTINNode(0, 0), QnGeTINNode(4, 0), QnGeTINNode(0, 3)};
+    QnGeTINTriangle roundTriangle;
+    for (int i = 0; i < 3; ++i) {
+        roundTriangle.Node[i] = &corners[i];
+    }
+    roundTriangle.UpdateExtend();
+    roundTriangle.IsInsideCircle(QnGePoint(1, 1));  // computes the circle
 
     // ---- what is not what it should be -----------------------------------------------------------
     Garbage<QnDynArray<double>> wildArray(0xA5);
     Garbage<QnDList<long>> wildList(0xA5);
+    Garbage<QnDList<long>> longWildList(0x11);
     Garbage<QnDList<long>> zeroList(0);
+    Garbage<QnDynArray<double>> longWildArray(0x11);
+    WrongLength<QnDynArray<long>> wrongArray(99);
+    WrongLength<QnList<long>> wrongList(3);
+    WrongLength<QnList<long>> shortList(1);
     Garbage<QnGePolyline2d> wildPolyline(0xA5);
     Garbage<QnGePolyline2d> zeroPolyline(0);
     Garbage<QnGeMCurve2d> wildChain(0xA5);
@@ -164,7 +191,7 @@ int main() {
     nowhereObjects << nowhere << &segment;
 
     StopHere();
-    static_cast<void>(curve), static_cast<void>(object), static_cast<void>(curves), static_cast<void>(shell);
+    Keep(point, vector, curve, object, curves, shell);
     ringEnd.ClearNext();  // both stand on the stack: neither owns the other
     ring.ClearNext();
     return 0;
