@@ -2,25 +2,13 @@
 #include "terrain/QnGeTINGraph.h"
 
 #include "containers/QnDynArray.h"
+#include "spatial/detail/ReadAhead.h"
 #include "terrain/detail/HullIndex.h"
 #include "terrain/detail/TriangleFinder.h"
 #include "terrain/detail/TriangleHit.h"
 #include "terrain/detail/TriangleTree.h"
 
 namespace {
-
-constexpr std::size_t CACHE_LINE = 64;
-
-/// Asks for the memory of a triangle that is to be looked at soon, if there is one.
-void FetchAhead(const QnGeTINTriangle* triangle) {
-    if (triangle == nullptr) {
-        return;
-    }
-    const char* const first = reinterpret_cast<const char*>(triangle);
-    for (std::size_t at = 0; at < sizeof(QnGeTINTriangle); at += CACHE_LINE) {
-        __builtin_prefetch(first + at);
-    }
-}
 
 /// By how many tolerances the trees reach beyond the nodes, so that no box touches their border.
 constexpr double MARGIN = 10.0;
@@ -90,7 +78,9 @@ void QnGeTINGraph::TreeChanged() {
 }
 
 void QnGeTINGraph::PushLOP(QnGeTINTriangle* triangle) {
-    FetchAhead(triangle->NearTrg[1]);
+    if (triangle->NearTrg[1] != nullptr) {
+        qn_detail::ReadAhead(triangle->NearTrg[1]);  // LOP looks at it soon
+    }
     triangle->Radius = -1.0;
     LOPStack.Push(triangle);
     if (triangle->HasBit(TRG_IN_TREE)) {

@@ -34,6 +34,7 @@ class TriangleTree;
 ///            plane first; the given order is lost.
 /// Invariant  After each Insert: neighbours point at each other; an edge has a hull record exactly when it has no
 ///            neighbour; every triangle is in the tree under its true box.
+/// Valid      Nodes stay where they are, and triangles with their graph: lists of two graphs are not to be joined.
 /// Ownership  Owns the nodes, triangles and hull records of its lists. Copies share all three, as lists of owned
 ///            pointers do, so that one side must be emptied by TakeOffHead before both die; trees of a copy are empty.
 /// Cost       MakeTIN about n log n for n nodes that lie neither on a circle nor on lines; n times the hull's length at
@@ -48,14 +49,14 @@ protected:
 
     QnDListStack<QnGeTINTriangle*> LOPStack;  ///< triangles whose edge 1 is still to be looked at
     QnListQuene<QnGeTINTriangle*> TrgQuene;   ///< unused here
-    QnGeQuadTree2d TrgTree;     ///< boxes of the triangles not on the stack; who changes it himself calls TreeChanged
-    QnGePtQuadTree2d NodeTree;  ///< has its range from SetRange; holds nothing between calls
-    QnGeExtent2d Range;         ///< of the nodes inserted so far
+    QnGeQuadTree2d TrgTree;                   ///< boxes of the triangles not on the stack; see TreeChanged
+    QnGePtQuadTree2d NodeTree;                ///< has its range from SetRange; holds nothing between calls
+    QnGeExtent2d Range;                       ///< of the nodes inserted so far
 
 public:
     QnPDList<QnGeTINNode> NodeList;        ///< before MakeTIN its input; then the nodes of the network
     QnPDList<QnGeTINTriangle> TrgList;     ///< in the order of making
-    QnPDList<QnGeTINOutEdge> OutEdgeList;  ///< the hull, a closed ring
+    QnPDList<QnGeTINOutEdge> OutEdgeList;  ///< the hull, a closed ring; may be turned round, not exchanged in part
 
     // ---- making ----------------------------------------------------------------------------------
 
@@ -111,8 +112,11 @@ protected:
     /// Ownership  On true the node is the graph's.
     bool InsertOutside(QnGeTINNode* node);
 
-    /// Forgets the place in TrgTree from which the next search would start. For derived classes that have changed that
-    /// tree by its own operations.
+    /// Says that TrgTree, the triangles or the ring were changed by other means than the operations here. From then on
+    /// all is done from the root of the tree, which answers the same.
+    ///
+    /// Cost  Each insertion goes through the lists on its way down the tree; they are long in a large network. Reading
+    ///       the tree costs the lists that are read the same.
     void TreeChanged();
 
     QnPDList<QnGeTINNode> Dropped;  ///< nodes that found no place
@@ -127,8 +131,10 @@ private:
     void JoinHullEdges(QnGeTINNode* node, long index);
     bool JoinHullLine(QnGeTINNode* node, long index);
     void SplitHullEdge(QnGeTINNode* node, long index, QnGeTINNode* from, QnGeTINNode* to);
+    void DropHullRecord(long index);
     void ReplaceHullEdges(long index, long count, QnGeTINOutEdge* first, QnGeTINOutEdge* second);
 
+    QnPDList<QnGeTINOutEdge> m_goneRecords;           ///< off the ring, but perhaps not off all triangles
     std::unique_ptr<qn_detail::HullIndex> m_hull;     ///< of a long hull
     std::unique_ptr<qn_detail::TriangleTree> m_tree;  ///< works on TrgTree
     std::unique_ptr<qn_detail::TriangleFinder> m_finder;

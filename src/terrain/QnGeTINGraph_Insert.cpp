@@ -61,6 +61,7 @@ bool QnGeTINGraph::InsertThird(QnGeTINNode* node) {
         }
         return false;
     }
+    m_finder = std::make_unique<qn_detail::TriangleFinder>();  // whatever a former network had taught it
     NodeList.Append(node);
     QnGeTINTriangle* const triangle = NewTriangle();
     triangle->Node[0] = node;

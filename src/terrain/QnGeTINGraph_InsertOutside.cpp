@@ -13,17 +13,20 @@
 // Why so     A long hull has an index that passes over edges which cannot decide (detail/HullIndex.h); the walk stays
 //            that over all edges in order.
 // Ownership  As Insert: the node is the graph's on true.
+#include <algorithm>
 #include <cmath>
 
 #include "terrain/QnGeTINGraph.h"
 #include "terrain/detail/HullIndex.h"
+#include "terrain/detail/HullRing.h"
 #include "terrain/detail/TriangleFinder.h"
 #include "values/QnGeBaseLine2d.h"
 #include "values/detail/PathType.h"
 
 namespace {
 
-using Ring = QnPDList<QnGeTINOutEdge>;
+using qn_detail::NextInRing;
+using Ring = qn_detail::HullRing;
 
 /// Hulls of more edges are indexed.
 constexpr long LONG_HULL = 128;
@@ -37,21 +40,9 @@ public:
     }
 };
 
-QnGeTINOutEdge* const* NextInRing(const Ring& ring, QnGeTINOutEdge* const* entry) {
-    QnGeTINOutEdge* const* const next = ring.GetNext(entry);
-    return next != nullptr ? next : ring.GetFirst();
-}
-
 /// How the edge from this record to the next turns towards the node; a right turn faces it.
 int TurnTo(const Ring& ring, QnGeTINOutEdge* const* entry, const QnGeTINNode& node) {
     return qn_detail::PathTypeOf(*(*entry)->Node, *(*NextInRing(ring, entry))->Node, node);
-}
-
-double Larger(double a, double b) {
-    return a > b ? a : b;
-}
-double Smaller(double a, double b) {
-    return a < b ? a : b;
 }
 
 /// Whether a node on the line of an edge is surely neither on the edge nor at its ends. On a straight row this is so of
@@ -61,10 +52,10 @@ bool IsBeyondEnds(const Ring& ring, QnGeTINOutEdge* const* entry, const QnGeTINN
     constexpr double ROUNDING = 1e-14;
     const QnGeTINNode& a = *(*entry)->Node;
     const QnGeTINNode& b = *(*NextInRing(ring, entry))->Node;
-    const double far = std::fabs(node.x - a.x) + std::fabs(node.y - a.y);
-    const double margin = NEAR * std::fabs(g_distZero) + ROUNDING * far;
-    return Larger(a.x, b.x) < node.x - margin || Smaller(a.x, b.x) > node.x + margin ||
-           Larger(a.y, b.y) < node.y - margin || Smaller(a.y, b.y) > node.y + margin;
+    const double distance = std::fabs(node.x - a.x) + std::fabs(node.y - a.y);
+    const double margin = NEAR * std::fabs(g_distZero) + ROUNDING * distance;
+    return std::max(a.x, b.x) < node.x - margin || std::min(a.x, b.x) > node.x + margin ||
+           std::max(a.y, b.y) < node.y - margin || std::min(a.y, b.y) > node.y + margin;
 }
 
 }  // namespace
@@ -143,17 +134,16 @@ long QnGeTINGraph::FindAndRotateEdge(QnGeTINNode* node, long& index) {
     return count;
 }
 
-namespace {
-
-/// A record leaves the ring. In a network that has come apart, with a triangle that is its own neighbour, other edges of
-/// its triangle may show it too.
-void ForgetRecord(QnGeTINTriangle* triangle, const QnGeTINOutEdge* record) {
-    for (QnGeTINOutEdge*& out : triangle->OutEdge) {
-        out = out == record ? nullptr : out;
+/// Takes a record off the ring. In a network that has come apart other edges than its own may show it too, so there it
+/// stays, off the ring, until the graph goes.
+void QnGeTINGraph::DropHullRecord(long index) {
+    QnGeTINOutEdge* const record = OutEdgeList.TakeOff(index);
+    if (m_finder->IsSound()) {
+        delete record;
+    } else {
+        m_goneRecords.Append(record);
     }
 }
-
-}  // namespace
 
 /// Joins the node to the run of facing edges round `index`, each of which gets a triangle.
 void QnGeTINGraph::JoinHullEdges(QnGeTINNode* node, long index) {
@@ -173,7 +163,6 @@ void QnGeTINGraph::JoinHullEdges(QnGeTINNode* node, long index) {
         const long k = inner->GetNodeIndex(a);
         inner->NearTrg[k] = outer;
         inner->OutEdge[k] = nullptr;
-        ForgetRecord(inner, *entry);
         if (lastNew != nullptr) {
             lastNew->NearTrg[0] = outer;
             outer->NearTrg[2] = lastNew;
@@ -183,7 +172,7 @@ void QnGeTINGraph::JoinHullEdges(QnGeTINNode* node, long index) {
         lastNew = outer;
         TrgList.Append(outer);
         PushLOP(outer);
-        OutEdgeList.Del(index);
+        DropHullRecord(index);
     }
     NodeList.Append(node);
     QnGeTINOutEdge* const second = lastNew->CreateOutEdge(0);
@@ -217,7 +206,10 @@ bool QnGeTINGraph::JoinHullLine(QnGeTINNode* node, long index) {
     }
     double pa = 0.0;
     QnGeBaseLine2d(*a, *b).GetPaFromPt(*node, pa);
-    if (!(pa > 0.0 && pa < 1.0)) {
+    const QnGeTINTriangle& triangle = *(*entry)->Triangle;
+    // In a network that has come apart the triangle need not lie on the edge, and the two be no nodes of it.
+    const bool isOfTriangle = triangle.GetNodeIndex(a) != triangle.GetNodeIndex(b);
+    if (!(pa > 0.0 && pa < 1.0) || !isOfTriangle) {
         return false;
     }
     SplitHullEdge(node, index, a, b);
@@ -227,10 +219,8 @@ bool QnGeTINGraph::JoinHullLine(QnGeTINNode* node, long index) {
 /// Splits hull edge `index` from a to b, and the triangle a b c on it, in two: p b c, which the old one becomes, and
 /// the new p c a.
 void QnGeTINGraph::SplitHullEdge(QnGeTINNode* node, long index, QnGeTINNode* from, QnGeTINNode* to) {
-    const QnGeTINOutEdge* const record = *OutEdgeList.GetTo(index);
-    QnGeTINTriangle* const triangle = record->Triangle;
-    ForgetRecord(triangle, record);
-    OutEdgeList.Del(index);
+    QnGeTINTriangle* const triangle = (*OutEdgeList.GetTo(index))->Triangle;
+    DropHullRecord(index);
     const long edgeAB = triangle->GetNodeIndex(from);
     const long edgeBC = triangle->GetNodeIndex(to);
     const long edgeCA = 3 - edgeAB - edgeBC;

@@ -55,11 +55,11 @@ void QnGeTINGraph::MakeTIN() {
     QnList<QnGeTINNode*> nodes;
     nodes.Conbine(NodeList, 0);
     qn_detail::SortForInsertion(nodes, NodeTree);
-    Scout far(nodes, NODES_AHEAD);
-    Scout near(nodes, STARTS_AHEAD);
+    Scout nodeScout(nodes, NODES_AHEAD);
+    Scout startScout(nodes, STARTS_AHEAD);
     while (!nodes.IsEmpty()) {
-        qn_detail::ReadAhead(far.Next());
-        const QnGeTINNode* const soon = near.Next();
+        qn_detail::ReadAhead(nodeScout.Next());
+        const QnGeTINNode* const soon = startScout.Next();
         if (soon != nullptr) {
             m_finder->ReadAhead(*soon);
         }

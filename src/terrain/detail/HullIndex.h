@@ -3,10 +3,9 @@
 
 #include <memory>
 
-#include "containers/QnPDList.h"
 #include "containers/detail/PodArray.h"
 #include "terrain/QnGeTINNode.h"
-#include "terrain/QnGeTINOutEdge.h"
+#include "terrain/detail/HullRing.h"
 
 namespace qn_detail {
 
@@ -17,8 +16,8 @@ namespace qn_detail {
 /// See        HullIndex.cpp for how it works
 class HullIndex {
 public:
-    using Ring = QnPDList<QnGeTINOutEdge>;
-    using Entry = QnGeTINOutEdge* const*;  ///< an element of the ring, where it stands in the list
+    using Ring = HullRing;
+    using Entry = HullEntry;
 
     explicit HullIndex(const Ring& ring);
     ~HullIndex();

@@ -16,8 +16,9 @@
 //              * V has P to its left or on the line at all edges, so it would let it in. All triangles run
 //                counter-clockwise and the hull is one convex ring, so they do not overlap, and P is at least as far
 //                from V as from the edges of its own triangle. "On the line" from A to B is half the cross product over
-//                |dx| + |dy| of PA, so a distance of up to 2.83 t |PA| / |AB|; P must also project between A and B, so
-//                this is below 5 t if no edge is shorter than 4 t.
+//                |dx| + |dy| of PA, so a distance of up to 2.83 t |PA| / |AB| from the line; P must also lie between A
+//                and B by the longer of the edge's extents, so it is within 9 t of the edge if that is no shorter than
+//                8 t.
 //              * V has a hull edge on the line of which P lies, anywhere along it, and so ends the search. P is in the
 //                box of V, so its distance from that line is at most 3 t times the size of the box over |AB|; and it
 //                is no less than that from the hull, which is convex, so no less than that from the edges of P's own
@@ -43,7 +44,7 @@ namespace qn_detail {
 namespace {
 
 constexpr long FAR_START = 512;             ///< steps for which a nearer start is worth looking up
-constexpr double SHORTEST_EDGE = 4.0;       ///< in tolerances
+constexpr double SHORTEST_EDGE = 8.0;       ///< in tolerances
 constexpr double CLEAR = 16.0;              ///< of triangles, in tolerances
 constexpr double CLEAR_OF_LINES = 8.0;      ///< of hull edges' lines, in tolerances times the stretch
 constexpr double CLEAR_OF_SLACK = 4.0;      ///< in slacks times the extent
@@ -90,14 +91,25 @@ int EdgeTo(const QnGeTINTriangle& t, const QnGeTINTriangle* neighbour) {
     return t.NearTrg[1] == neighbour ? 1 : 2;
 }
 
+/// Whether a node is in the triangle's box or not far off, by `margin`. Then areas are exact but for what margins
+/// allow.
+bool IsBy(const QnGeTINNode& node, const QnGeTINTriangle& t, double margin) {
+    return node.x > t.x.min - margin && node.x < t.x.max + margin && node.y > t.y.min - margin &&
+           node.y < t.y.max + margin;
+}
+
 /// A node to the right of hull edge `edge`, on its line or hardly to its left: to the right or on the line it is in no
-/// triangle, whichever is asked first. Triangles alone must be clear of it, not the lines of hull edges: who lies on one
-/// of these is in no triangle either.
+/// triangle, whichever is asked first. Triangles alone must be clear of it, not the lines of hull edges: who lies on
+/// one of these is in no triangle either. From far away the side of an edge is known to the rounding of the area only.
 bool IsOutside(const QnGeTINNode& node, const QnGeTINTriangle& t, int edge, const Sides& sides, double margin) {
     const QnGePoint& from = *t.Node[edge];
     const QnGePoint& to = *t.Node[edge == 2 ? 0 : edge + 1];
-    return PathTypeOf(node, from, to) != PATH_LEFT &&
-           (sides.area[edge] < -margin * std::sqrt(SquareOf(from, to)) || sides.IsClearBut(edge, margin * SizeOf(t)));
+    if (PathTypeOf(node, from, to) == PATH_LEFT) {
+        return false;
+    }
+    const double distance = std::sqrt(SquareOf(node, from)) + std::sqrt(SquareOf(node, to));
+    const double clear = margin * std::sqrt(SquareOf(from, to)) + ROUNDING * distance * distance;
+    return sides.area[edge] < -clear || (IsBy(node, t, margin) && sides.IsClearBut(edge, margin * SizeOf(t)));
 }
 
 /// Asks the two triangles beside an edge, `t` and the one beyond it, in the order of the tree.
@@ -129,8 +141,9 @@ void TriangleFinder::LearnTriangle(const QnGeTINTriangle& t) {
                          SquareOf(*t.Node[0], *t.Node[1]) > shortestSquare &&
                          SquareOf(*t.Node[1], *t.Node[2]) > shortestSquare &&
                          SquareOf(*t.Node[2], *t.Node[0]) > shortestSquare;
-    m_isSound = m_isSound && isSound && (g_distZero == m_tolerance || m_tolerance == 0.0);
+    m_isSound = m_isSound && isSound && (g_distZero == m_tolerance || !m_hasLearned);
     m_tolerance = g_distZero;
+    m_hasLearned = true;
     LearnHullEdges(t);
 }
 
@@ -150,23 +163,18 @@ void TriangleFinder::LearnTurn(const QnGePoint& a, const QnGePoint& b, const QnG
     const double cross = (b.x - a.x) * (c.y - b.y) - (b.y - a.y) * (c.x - b.x);
     const double dot = (b.x - a.x) * (c.x - b.x) + (b.y - a.y) * (c.y - b.y);
     if (dot > 0.0) {
-        m_slack += cross > 0.0 ? 0.0 : ROUNDING_OF_TURN - cross / dot;
+        m_slack += cross > ROUNDING_OF_TURN * dot ? 0.0 : ROUNDING_OF_TURN - cross / dot;
         return;
     }
     const double longest = std::sqrt(std::fmax(SquareOf(a, b), SquareOf(b, c)));
     m_isSound = m_isSound && cross > CLEAR * g_distZero * longest;
 }
 
-void TriangleFinder::LearnHull(const Ring& ring, QnGeTINOutEdge* const* entry) {
-    const auto next = [&ring](QnGeTINOutEdge* const* e) {
-        QnGeTINOutEdge* const* const following = ring.GetNext(e);
-        return following != nullptr ? following : ring.GetFirst();
-    };
-    QnGeTINOutEdge* const* const before = ring.GetPre(entry) != nullptr ? ring.GetPre(entry) : ring.GetLast();
-    const QnGePoint* nodes[5] = {(*before)->Node};
+void TriangleFinder::LearnHull(const HullRing& ring, HullEntry entry) {
+    const QnGePoint* nodes[5] = {(*PreInRing(ring, entry))->Node};
     for (int i = 1; i < 5; ++i) {
         nodes[i] = (*entry)->Node;
-        entry = next(entry);
+        entry = NextInRing(ring, entry);
     }
     for (int i = 0; i < 3; ++i) {
         LearnTurn(*nodes[i], *nodes[i + 1], *nodes[i + 2]);
@@ -174,7 +182,7 @@ void TriangleFinder::LearnHull(const Ring& ring, QnGeTINOutEdge* const* entry) {
 }
 
 /// The stretch only grows while triangles come, also with those that are gone again; so it is taken anew now and then.
-void TriangleFinder::LearnSize(const Ring& ring, const QnGeExtent2d& range, long nodeNum) {
+void TriangleFinder::LearnSize(const HullRing& ring, const QnGeExtent2d& range, long nodeNum) {
     if (nodeNum < m_sizeToRefresh) {
         return;
     }
@@ -182,7 +190,7 @@ void TriangleFinder::LearnSize(const Ring& ring, const QnGeExtent2d& range, long
     std::swap(m_starts, m_olderStarts);
     m_starts.Reset(range, nodeNum);
     m_stretch = 1.0;
-    for (QnGeTINOutEdge* const* entry = ring.GetFirst(); entry != nullptr; entry = ring.GetNext(entry)) {
+    for (HullEntry entry = ring.GetFirst(); entry != nullptr; entry = ring.GetNext(entry)) {
         LearnHullEdges(*(*entry)->Triangle);
     }
 }
@@ -194,6 +202,19 @@ double TriangleFinder::GetMargin(const QnGeExtent2d& range) const {
 
 // ---- looking ---------------------------------------------------------------------------------------
 
+/// A triangle found near by where the one that the tree offers is one of many.
+QnGeTINTriangle* TriangleFinder::ChooseStart(const QnGeTINNode& node, const WalkStart& start) const {
+    if (start.mostSteps <= FAR_START) {
+        return start.triangle;
+    }
+    for (const StartTable* table : {&m_starts, &m_olderStarts}) {
+        if (QnGeTINTriangle* const kept = table->Get(node)) {
+            return kept;
+        }
+    }
+    return start.triangle;
+}
+
 bool TriangleFinder::Find(const QnGeTINNode& node, const WalkStart& start, const QnGeExtent2d& range,
                           TriangleHit& hit) {
     if (!m_isSound || !(g_distZero > 0.0) || g_distZero != m_tolerance || start.triangle == nullptr) {
@@ -201,10 +222,7 @@ bool TriangleFinder::Find(const QnGeTINNode& node, const WalkStart& start, const
     }
     const double margin = GetMargin(range);
     const double wideMargin = margin + g_distZero * CLEAR_OF_LINES * std::sqrt(m_stretch);
-    const bool isFar = start.mostSteps > FAR_START;
-    QnGeTINTriangle* t = isFar ? m_starts.Get(node) : start.triangle;
-    t = t != nullptr ? t : m_olderStarts.Get(node);
-    t = t != nullptr ? t : start.triangle;
+    QnGeTINTriangle* t = ChooseStart(node, start);
     for (long step = 0; step < start.mostSteps; ++step) {
         const Sides sides(node, *t);
         const int least = sides.GetLeast();
@@ -213,18 +231,19 @@ bool TriangleFinder::Find(const QnGeTINNode& node, const WalkStart& start, const
             t = beyond;
             continue;
         }
-        if (isFar) {
+        if (start.mostSteps > FAR_START) {
             m_starts.Keep(node, t);
         }
-        const double size = SizeOf(*t);
-        if (sides.area[least] >= wideMargin * size) {
+        const double clear = wideMargin * SizeOf(*t);
+        const bool isBy = IsBy(node, *t, margin);
+        if (isBy && sides.area[least] >= clear) {
             hit.triangle = t;
             return TriangleTree::IsIn(*t);
         }
         if (beyond == nullptr) {
             return IsOutside(node, *t, least, sides, margin);
         }
-        return sides.IsClearBut(least, wideMargin * size) &&
+        return isBy && sides.IsClearBut(least, clear) &&
                Sides(node, *beyond).IsClearBut(EdgeTo(*beyond, t), wideMargin * SizeOf(*beyond)) &&
                DecideBeside(node, t, beyond, hit);
     }

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "containers/QnPDList.h"
 #include "spatial/detail/ReadAhead.h"
 #include "terrain/QnGeTINNode.h"
-#include "terrain/QnGeTINOutEdge.h"
+#include "terrain/detail/HullRing.h"
 #include "terrain/detail/StartTable.h"
 #include "terrain/detail/TriangleHit.h"
 #include "terrain/detail/TriangleTree.h"
@@ -20,14 +19,15 @@ namespace qn_detail {
 /// See        TriangleFinder.cpp for why the answers are the same
 class TriangleFinder {
 public:
-    using Ring = QnPDList<QnGeTINOutEdge>;
-
     /// A triangle goes into the tree, with its true box.
     void LearnTriangle(const QnGeTINTriangle& triangle);
     /// `entry` of the ring and the one behind it are new. `nodeNum` nodes are in the network.
-    void LearnHull(const Ring& ring, QnGeTINOutEdge* const* entry);
+    void LearnHull(const HullRing& ring, HullEntry entry);
     /// So many nodes are in the network now, and `range` includes them.
-    void LearnSize(const Ring& ring, const QnGeExtent2d& range, long nodeNum);
+    void LearnSize(const HullRing& ring, const QnGeExtent2d& range, long nodeNum);
+
+    /// Whether all triangles surely ran counter-clockwise so far, with no edge near the tolerance, round a convex hull.
+    bool IsSound() const { return m_isSound; }
 
     /// Looks for a node.
     ///
@@ -39,12 +39,14 @@ public:
     void ReadAhead(const QnGePoint& place) const { qn_detail::ReadAhead(m_starts.Get(place)); }
 
 private:
+    QnGeTINTriangle* ChooseStart(const QnGeTINNode& node, const WalkStart& start) const;
     double GetMargin(const QnGeExtent2d& range) const;
     void LearnHullEdges(const QnGeTINTriangle& triangle);
     void LearnTurn(const QnGePoint& a, const QnGePoint& b, const QnGePoint& c);
 
-    bool m_isSound = true;      ///< all triangles surely run counter-clockwise and no edge is near the tolerance
-    double m_tolerance = 0.0;   ///< under which all was learned; 0 before
+    bool m_isSound = true;
+    bool m_hasLearned = false;
+    double m_tolerance = 0.0;   ///< under which all was learned
     double m_stretch = 1.0;     ///< square of the largest size of a triangle on the hull in lengths of its hull edge
     double m_slack = 0.0;       ///< by what angle the hull turns to the right in all, at most
     long m_sizeToRefresh = 16;  ///< number of nodes at which the stretch is taken anew

@@ -51,7 +51,7 @@ void TriangleList::Add(QnGeTINTriangle* triangle, const QnGeExtent2d& range) {
     m_row[m_end++] = triangle;
     m_nCur = m_nLength++;
     if (m_index != nullptr) {
-        if (IsIdle()) {
+        if (CountChange()) {
             m_index.reset();
         } else {
             m_index->boxes.Add(triangle, range);
@@ -62,10 +62,10 @@ void TriangleList::Add(QnGeTINTriangle* triangle, const QnGeExtent2d& range) {
 void TriangleList::Remove(QnGeTINTriangle* triangle) {
     if (m_hasNodes) {
         MoveToFirst();
-        while (GetCurData() != triangle) {
+        while (!IsOut() && GetCurData() != triangle) {
             MoveToNext();
         }
-        DelCur();
+        DelCur();  // nothing, if somebody has taken it off
         GoOut();
         return;
     }
@@ -75,7 +75,7 @@ void TriangleList::Remove(QnGeTINTriangle* triangle) {
     }
     --m_nLength;
     m_nCur = -1;
-    if (m_index != nullptr && (IsIdle() || m_index->boxes.Take(triangle) == nullptr)) {
+    if (m_index != nullptr && (CountChange() || m_index->boxes.Take(triangle) == nullptr)) {
         m_index.reset();
     }
 }
@@ -138,8 +138,8 @@ void TriangleList::Find(const QnGePoint& point, const QnGeExtent2d& range, QnDyn
     }
 }
 
-/// Counts a change; whether it is one too many.
-bool TriangleList::IsIdle() {
+/// Whether it is one change too many for the index.
+bool TriangleList::CountChange() {
     return ++m_index->changes > FEW * m_nLength;
 }
 

@@ -13,7 +13,8 @@ namespace qn_detail {
 
 /// The list of one cell of a network's tree: triangles in order of arrival in a row of places, and each knows its own.
 ///
-///      | t | t |   | t |   |   | t | t |   spare   |      A place whose triangle was taken stays empty until the row is
+///      | t | t |   | t |   |   | t | t |   spare   |      A place whose triangle was taken stays empty until the row
+///      is
 ///                                                          tidied, which gives all triangles new places.
 ///
 /// It is searched seldom. But where all triangles of a network are in one list, and the searches are many, going
@@ -26,7 +27,7 @@ class TriangleList final : public NodelessList {
 public:
     using Place = std::uint32_t;
 
-    TriangleList() {}
+    TriangleList() {}  // leaves the places unset
     ~TriangleList() override;
 
     bool IsInRow() const { return !m_hasNodes; }
@@ -53,7 +54,7 @@ private:
 
     void Tidy();
     void FreeRow();
-    bool IsIdle();
+    bool CountChange();
     void MakeIndex(const QnGeExtent2d& range);
 
     static constexpr Place IN_OBJECT = 3;

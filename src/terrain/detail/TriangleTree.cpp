@@ -46,8 +46,8 @@ struct TriangleTree::Kind {
             cell.ExtentList = new TriangleList;
         }
         auto* const triangle = static_cast<QnGeTINTriangle*>(item);
-        TreePlace::SetCell(*triangle, &cell);
         ListOf(cell).Add(triangle, cell);
+        TreePlace::SetCell(*triangle, &cell);
     }
 
     static void PutOne(Tree& cell, Item* item) {
@@ -189,7 +189,7 @@ TriangleTree::Asked TriangleTree::IsAsked(const QnGeTINTriangle& triangle, const
     if (cell == nullptr || !cell->IsInside(point.x, point.y)) {
         return Asked::UNSURE;
     }
-    const bool isSingle = TreePlace::PlaceOf(triangle) == TreePlace::NO_PLACE;
+    const bool isSingle = cell->OneExtent == &triangle;
     if (!isSingle && !ListOf(*cell).IsInRow()) {
         return Asked::UNSURE;
     }

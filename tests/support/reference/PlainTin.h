@@ -92,7 +92,10 @@ private:
     bool InsertOutside(NodePtr& node);
     bool InsertBefore(Index i, NodePtr& node);
     bool InsertOnEdge(Index i, NodePtr& node);
+    void DropOutEdge(Index i);
     long FindAndRotateEdge(const PlainNode& p, Index& i);
     const PlainNode* StartOf(Index i) const { return OutEdgeList[i]->Node; }
     const PlainNode* EndOf(Index i) const { return OutEdgeList[i + 1 < OutEdgeList.size() ? i + 1 : 0]->Node; }
+
+    std::vector<std::unique_ptr<PlainOutEdge>> m_gone;
 };

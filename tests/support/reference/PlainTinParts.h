@@ -44,13 +44,6 @@ inline void TakeOver(PlainOutEdge* record, PlainTrg* trg) {
     }
 }
 
-/// The record leaves the ring; no edge of its triangle must show it any more, whatever the links have become.
-inline void ForgetRecord(PlainTrg* trg, const PlainOutEdge* record) {
-    for (PlainOutEdge*& out : trg->OutEdge) {
-        out = out == record ? nullptr : out;
-    }
-}
-
 inline void Replace(PlainTrg* neighbour, const PlainTrg* oldTrg, PlainTrg* newTrg) {
     if (neighbour != nullptr) {
         neighbour->ReplaceNearTrg(oldTrg, newTrg);

@@ -2,6 +2,8 @@
 // PlainTin_Insert.cpp: a node inside the hull and a node outside it.
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <utility>
 
 #include "support/reference/PlainTin.h"
 #include "support/reference/PlainTinParts.h"
@@ -114,7 +116,8 @@ long PlainTin::FindAndRotateEdge(const PlainNode& p, Index& i) {
         return count;
     }
     Index first = length;  // of the run that ends at the end of the list
-    while (first > 0 && TurnTo(*StartOf(first - 1), *EndOf(first - 1), p) == PATH_RIGHT) {
+    while (first > 0 && count < static_cast<long>(length) &&
+           TurnTo(*StartOf(first - 1), *EndOf(first - 1), p) == PATH_RIGHT) {
         --first;
         ++count;
     }
@@ -123,6 +126,12 @@ long PlainTin::FindAndRotateEdge(const PlainNode& p, Index& i) {
         i = 0;
     }
     return count;
+}
+
+/// Triangles of a network that has come apart may still show it.
+void PlainTin::DropOutEdge(Index i) {
+    m_gone.push_back(std::move(OutEdgeList[i]));
+    OutEdgeList.erase(OutEdgeList.begin() + static_cast<std::ptrdiff_t>(i));
 }
 
 bool PlainTin::InsertBefore(Index i, NodePtr& node) {
@@ -140,7 +149,6 @@ bool PlainTin::InsertBefore(Index i, NodePtr& node) {
         const long k = tri->GetNodeIndex(a);
         tri->NearTrg[k] = made;
         tri->OutEdge[k] = nullptr;
-        ForgetRecord(tri, OutEdgeList[i].get());
         if (lastNew != nullptr) {
             lastNew->NearTrg[0] = made;
             made->NearTrg[2] = lastNew;
@@ -149,7 +157,7 @@ bool PlainTin::InsertBefore(Index i, NodePtr& node) {
         }
         lastNew = made;
         PushLOP(made);
-        OutEdgeList.erase(OutEdgeList.begin() + static_cast<std::ptrdiff_t>(i));
+        DropOutEdge(i);
     }
     AppendNode(node);
     InsertOutEdge(i, lastNew, 0);
@@ -161,8 +169,7 @@ bool PlainTin::InsertOnEdge(Index i, NodePtr& node) {
     PlainNode* const a = OutEdgeList[i]->Node;
     PlainNode* const b = OutEdgeList[i + 1 < OutEdgeList.size() ? i + 1 : 0]->Node;
     PlainTrg* const tri = OutEdgeList[i]->Triangle;
-    ForgetRecord(tri, OutEdgeList[i].get());
-    OutEdgeList.erase(OutEdgeList.begin() + static_cast<std::ptrdiff_t>(i));
+    DropOutEdge(i);
     const long ia = tri->GetNodeIndex(a);
     const long ib = tri->GetNodeIndex(b);
     const long ic = 3 - ia - ib;
@@ -209,7 +216,8 @@ bool PlainTin::InsertOutside(NodePtr& node) {
             }
         }
         const double pa = ParameterOn(*a, *b, p);
-        if (0.0 < pa && pa < 1.0) {
+        const PlainTrg& tri = *OutEdgeList[i]->Triangle;  // in a network that has come apart perhaps not on the edge
+        if (0.0 < pa && pa < 1.0 && tri.GetNodeIndex(a) != tri.GetNodeIndex(b)) {
             return InsertOnEdge(i, node);
         }
     }
