@@ -13,9 +13,9 @@ namespace qn_detail {
 
 /// The list of one cell of a network's tree: triangles in order of arrival in a row of places, and each knows its own.
 ///
-///      | t | t |   | t |   |   | t | t |   spare   |      A place whose triangle was taken stays empty until the row
-///      is
-///                                                          tidied, which gives all triangles new places.
+///      | t | t |   | t |   |   | t | t |   spare   |
+///
+/// A place whose triangle was taken stays empty until the row is tidied, which gives all triangles new places.
 ///
 /// It is searched seldom. But where all triangles of a network are in one list, and the searches are many, going
 /// through it would be most of the work; so it gets an index when it has been gone through a few times, and loses it
