@@ -20,7 +20,8 @@
 /// Ownership  Boxes belong to the caller and must stay where they are with the coordinates they had; Delete(box, true)
 ///            alone frees one. The tree owns its nodes and lists.
 ///            Copy and assignment are shallow: both trees then share nodes, of which one may be destroyed, and the
-///            former nodes of the target are freed by nobody.
+///            former nodes of the target are freed by nobody. Addresses of a list's elements are good until the next
+///            insertion into the tree or deletion from it.
 /// Valid      A node does not hold OneExtent beside a child. SetRange does not sort anew: set the range of an empty
 ///            tree.
 /// Cost       Insert and Delete go down one path. Long lists carry a hidden index, by which looking for hits and

@@ -143,13 +143,13 @@ void BoxList::PutInRow(long place, const GridBox& box, Box* data) {
 QnGeExtent2d* BoxList::TakeFromRow(long place) {
     Pair* const row = GetRow();
     Box* const taken = *ElementAt(place);
+    m_nCur = place - 1;
     for (; place + 1 < m_nLength; ++place) {
         const Pair& from = row[(place + 1) / GridSearch::PAIR];
         PutInRow(place, from.boxes[(place + 1) % GridSearch::PAIR], from.data[(place + 1) % GridSearch::PAIR]);
     }
     PutInRow(place, GridBox::Empty(), nullptr);
     --m_nLength;
-    m_nCur = -1;
     if (2 * SpaceFor(m_nLength + 1) <= m_space) {
         MoveRow(SpaceFor(m_nLength + 1));
     }
@@ -256,10 +256,24 @@ QnGeExtent2d* BoxList::Take(const Box* box) {
     return TakeNode(node);
 }
 
+/// The index of a node. Of an ordered list, which is not gone through, only if the cursor is on it; 0 otherwise.
+long BoxList::IndexOf(const BoxNode* node) const {
+    long index = 0;
+    if (IsOrdered()) {
+        return m_pCurrent == node ? m_nCur : 0;
+    }
+    for (const BoxNode* at = Next(m_pHead); at != node; at = Next(at)) {
+        ++index;
+    }
+    return index;
+}
+
+/// The cursor steps back from it, as when a list deletes what the cursor is on.
 QnGeExtent2d* BoxList::TakeNode(BoxNode* node) {
     Box* const taken = node->data;
+    m_nCur = IndexOf(node) - 1;
+    m_pCurrent = m_nCur >= 0 ? node->previous : m_pHead;
     --m_nLength;
-    GoOut();
     DropHint();
     Unlink(node);
     delete node;

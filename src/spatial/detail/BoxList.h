@@ -35,7 +35,8 @@ public:
 
     /// Appends a box.
     void Add(Box* box, const Box& range);
-    /// Takes the element out that is the same as `box` and answers it; null if there is none.
+    /// Takes the element out that is the same as `box` and answers it; null if there is none. The cursor is on the one
+    /// before it, or out where a long list is not gone through.
     Box* Take(const Box* box);
     /// Appends the boxes that hold a point, or meet a box, in order.
     void Find(double x, double y, FoundBoxes<Box>& result) const;
@@ -94,6 +95,7 @@ private:
     void FreeRow();
     void PutInRow(long place, const GridBox& box, Box* data);
     Box* TakeFromRow(long place);
+    long IndexOf(const BoxNode* node) const;
     Box* TakeNode(BoxNode* node);
 
     void Arrange(const Grid& grid);

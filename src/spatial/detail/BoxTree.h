@@ -64,7 +64,7 @@ struct BoxTree : BoxTreeSearch<ABoxTree, BoxSectors, BoxLists> {
             return nullptr;
         }
         Box* const taken = BoxLists::Take(node, box);
-        if (node.ExtentList->IsEmpty()) {
+        if (taken != nullptr && node.ExtentList->IsEmpty()) {
             delete node.ExtentList;
             node.ExtentList = nullptr;
         }
@@ -115,6 +115,9 @@ struct BoxTree : BoxTreeSearch<ABoxTree, BoxSectors, BoxLists> {
             return false;
         }
         if (IsGreater(node.GetLength() / 2.0 - subtree->GetLength(), g_distZero)) {
+            if (!CanDivide(node.x, BoxSectors::CentreOf(node).x)) {
+                return false;  // for ever: an endless range, or a subtree turned inside out
+            }
             const bool isNew = node.Child[sector] == nullptr;
             if (!InsertChild(Base::ChildAt(node, sector), subtree)) {
                 if (isNew) {
