@@ -19,7 +19,10 @@ constexpr double MARGIN = 10.0;
 
 QnGeTINGraph::QnGeTINGraph() : m_tree(new qn_detail::TriangleTree(TrgTree)), m_finder(new qn_detail::TriangleFinder) {}
 
-QnGeTINGraph::~QnGeTINGraph() = default;
+/// The tree goes first: its pieces come back in no order, and what comes back last is the first to be used again.
+QnGeTINGraph::~QnGeTINGraph() {
+    TrgTree.Reset();
+}
 
 // The nodes of a tree can have one owner only, so the trees of a copy start empty, and so does the list of nodes that
 // only the destructor can reach.
