@@ -18,6 +18,7 @@
 // Cost       A few instructions to take or give, no bytes beside the piece.
 #include "containers/impl/Pieces.h"
 
+#include <cstdint>
 #include <new>
 
 #if defined(__linux__)
@@ -143,8 +144,9 @@ void* CutPiece(Shelf& shelf, std::size_t length) {
     void* const piece = shelf.cut;
     shelf.cut += length;
     // What comes next is written as soon as it is cut: it should be at hand by then.
+    const std::uintptr_t next = reinterpret_cast<std::uintptr_t>(shelf.cut) + AHEAD;  // perhaps beyond the slab
     for (std::size_t at = 0; at < length; at += CACHE_LINE) {
-        __builtin_prefetch(shelf.cut + AHEAD + at, 1);
+        __builtin_prefetch(reinterpret_cast<const void*>(next + at), 1);
     }
     return piece;
 }
