@@ -20,6 +20,12 @@ TEST(QnGeTINGraph, MakeTinOfNothingDoesNothing) {
     EXPECT_EQ(tin.graph.TrgTree.x.max, 0.0) << "no range is set either";
 }
 
+TEST(QnGeTINGraph, MakeTinTakesNodesThreeTolerancesHigh) {
+    TinPair tin;
+    tin.MakeTIN({{0, 0}, {4, 0}, {2, 3e-6}});
+    EXPECT_EQ(tin.graph.TrgList.GetLength(), 1);
+}
+
 TEST(QnGeTINGraph, MakeTinLeavesNodesOnALevelLineAlone) {
     const std::vector<std::vector<QnGePoint>> sets = {
         {{5, 5}},
@@ -27,6 +33,8 @@ TEST(QnGeTINGraph, MakeTinLeavesNodesOnALevelLineAlone) {
         {{3, 0}, {3, 4}, {3, 2}},
         {{0, 3}, {4, 3 + 9e-7}, {2, 3}},
         {{3, 0}, {3 + 9e-7, 4}, {3, 2}},
+        {{0, 0}, {4, g_distZero}, {2, 0}},
+        {{0, 0}, {g_distZero, 4}, {0, 2}},
         {{1, 1}, {1, 1}},
     };
     for (const std::vector<QnGePoint>& set : sets) {
